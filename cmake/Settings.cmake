@@ -1,0 +1,18 @@
+# What holds for every target of the project: link to htdrdd_settings.
+add_library(htdrdd_settings INTERFACE)
+target_compile_features(htdrdd_settings INTERFACE cxx_std_20)
+target_compile_options(htdrdd_settings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+set(HTDRDD_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize= takes them")
+if(HTDRDD_SANITIZE)
+    add_compile_options(-fsanitize=${HTDRDD_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${HTDRDD_SANITIZE})
+endif()
+
+option(HTDRDD_COVERAGE "Count what the tests run" OFF)
+if(HTDRDD_COVERAGE)
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()

@@ -1,0 +1,5 @@
+include(CMakeFindDependencyMacro)
+find_dependency(ICU COMPONENTS uc)
+find_dependency(PkgConfig)
+pkg_check_modules(NETTLE REQUIRED IMPORTED_TARGET nettle)
+include(${CMAKE_CURRENT_LIST_DIR}/htdrdd91-targets.cmake)

@@ -1,0 +1,14 @@
+/// The [Header] section.
+#pragma once
+
+#include "definition_file/section_lines.h"
+#include "platform/dictionary.h"
+
+namespace htdrdd::basTemplate {
+
+/// Takes every key of the section into the header settings: a known key gets a new value, an unknown one is
+/// added. The line that ends the section keeps its case: this is meant, and another section directly behind
+/// is recognised only in capitals. False after a failure, which is reported.
+[[nodiscard]] bool VB_RT_read_header(SectionLines& lines, Dictionary& oHeader) noexcept;
+
+} // namespace htdrdd::basTemplate

@@ -1,0 +1,16 @@
+/// The [Report] section.
+#pragma once
+
+#include "definition_file/section_lines.h"
+#include "model/clsHTDRDD.h"
+
+#include <cstdint>
+
+namespace htdrdd::basTemplate {
+
+/// Reads the document's own members and the counts that the file announces. False, with a stop message, where
+/// nothing stands behind the section, and after a failure, which is reported.
+[[nodiscard]] bool VB_RT_read_report(SectionLines& lines, clsHTDRDD& oRDD, std::int32_t& lNumQuestions,
+                                     std::int32_t& lNumVersions, std::int32_t& lNumSubtests) noexcept;
+
+} // namespace htdrdd::basTemplate

@@ -1,0 +1,28 @@
+/// Scaled scores: the sections [ScaledScore] and [SubtestScaledScore] of older files, and the same keys in
+/// [Subtest].
+#pragma once
+
+#include "definition_file/section_rows.h"
+#include "scaled_scores/scaled_score_members.h"
+
+namespace htdrdd::basTemplate {
+
+/// The keys of a scaled score, which go to the record at once.
+class ScaledScoreKeys {
+public:
+    explicit ScaledScoreKeys(clsHTDRDDScaledScore& score) : score_(score) {}
+    /// False for a key of something else.
+    bool Take(const SectionLines::Pair& pair, Where at = Where::current());
+    /// Deciphers what stood enciphered in the section; to be called at its end.
+    void Decipher() const;
+
+private:
+    clsHTDRDDScaledScore& score_;
+    RowFinder<ScaledScoreMember, kScaledScoreMembers.size()> finder_{kScaledScoreMembers};
+    bool unicode_ = false;
+};
+
+/// Fills a scaled score. False after a failure, which is reported; what was read before stays.
+[[nodiscard]] bool VB_RT_read_scaled_score(SectionLines& lines, clsHTDRDDScaledScore& oScaledScore) noexcept;
+
+} // namespace htdrdd::basTemplate

@@ -1,0 +1,66 @@
+#include "definition_file/versions_section.h"
+
+#include "definition_file/messages.h"
+#include "definition_file/section_rows.h"
+#include "foundation/basError.h"
+
+namespace htdrdd::basTemplate {
+namespace {
+
+void ShowWrongLength() {
+    ShowInvalidFile(
+        u"An error occurred reading the [Sequence] section of the configuration file. The number of "
+        u"questions in the sequence do not match the number of questions in the answer key file.");
+}
+
+} // namespace
+
+bool VB_RT_read_versions(SectionLines& lines, clsHTDRDDVersions& oVersions,
+                         std::int32_t lNumQuestions) noexcept {
+    bool result = false;
+    try {
+        lines.EnterSection();
+        for (SectionLines::Pair pair; lines.NextPair(pair);) {
+            if (SameInUpperCase(pair.key, u"Question")) {
+                ReadValue(pair.value, oVersions.Question, Where::current());
+            } else if (SameInUpperCase(pair.key, u"Answers")) {
+                oVersions.Answers->AddDelimitedString(pair.value, u"\t");
+            } else if (SameInUpperCase(pair.key, u"Sequence")) {
+                auto sequence = Make<clsHTDRDDSequence>();
+                sequence->AddDelimitedString(pair.value, u"\t");
+                if (sequence->Count() != lNumQuestions) {
+                    ShowWrongLength();
+                    return false;
+                }
+                oVersions.Sequences->Add(std::move(sequence));
+            }
+        }
+        result = true;
+    } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_versions"); }
+    return result;
+}
+
+bool VB_RT_read_sequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
+                         std::int32_t lNumQuestions) noexcept {
+    bool result = false;
+    try {
+        auto sequence = Make<clsHTDRDDSequence>();
+        lines.EnterSection();
+        for (SectionLines::Pair pair; lines.NextPair(pair);) {
+            if (SameInUpperCase(pair.key, u"Answer")) {
+                oVersions.Answers->Add(pair.value);
+            } else if (SameInUpperCase(pair.key, u"Order")) {
+                sequence->AddDelimitedString(pair.value, u"\t");
+                if (sequence->Count() != lNumQuestions) {
+                    ShowWrongLength();
+                    return false;
+                }
+            }
+        }
+        oVersions.Sequences->Add(std::move(sequence));
+        result = true;
+    } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_sequence"); }
+    return result;
+}
+
+} // namespace htdrdd::basTemplate

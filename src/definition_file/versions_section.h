@@ -1,0 +1,19 @@
+/// The [Versions] section, and [Sequence], its form in older files.
+#pragma once
+
+#include "definition_file/section_lines.h"
+#include "model/clsHTDRDDVersions.h"
+
+#include <cstdint>
+
+namespace htdrdd::basTemplate {
+
+/// Both add behind what the versions hold. False, with a stop message, for a sequence whose length isn't the
+/// number of questions that [Report] announced, and after a failure, which is reported; what was read before
+/// stays.
+[[nodiscard]] bool VB_RT_read_versions(SectionLines& lines, clsHTDRDDVersions& oVersions,
+                                       std::int32_t lNumQuestions) noexcept;
+[[nodiscard]] bool VB_RT_read_sequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
+                                       std::int32_t lNumQuestions) noexcept;
+
+} // namespace htdrdd::basTemplate

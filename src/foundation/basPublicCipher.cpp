@@ -1,0 +1,124 @@
+#include "foundation/basPublicCipher.h"
+
+#include "foundation/basError.h"
+#include "foundation/basPublicText.h"
+#include "platform/block_cipher.h"
+#include "platform/number.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace htdrdd::basPublic {
+namespace {
+
+/// The key, character by character; it stands nowhere in one piece.
+std::string CipherKey() {
+    std::string key;
+    for (const int step : {23, 41, 8, 67, 19, 52, 77, 30, 5, 61, 44, 12, 70, 36, 58, 27})
+        key += static_cast<char>('!' + (step * 31 + static_cast<int>(key.size()) * 17) % 90);
+    return key;
+}
+
+void AppendHex(Text& hex, unsigned char byte) {
+    constexpr TextView kDigits = u"0123456789ABCDEF";
+    hex += kDigits[byte >> 4U];
+    hex += kDigits[byte & 0xFU];
+}
+
+/// Value of a hexadecimal digit, or -1.
+int HexDigit(char16_t c, bool upperOnly) {
+    if (c >= u'0' && c <= u'9') return c - u'0';
+    if (c >= u'A' && c <= u'F') return c - u'A' + 10;
+    if (!upperOnly && c >= u'a' && c <= u'f') return c - u'a' + 10;
+    return -1;
+}
+
+/// The bytes of pairs of digits. A pair that isn't one fails with 13.
+std::string BytesOf(TextView hex, bool upperOnly) {
+    std::string bytes;
+    bytes.reserve(hex.size() / 2);
+    for (; hex.size() >= 2; hex.remove_prefix(2)) {
+        const int high = HexDigit(hex[0], upperOnly);
+        const int low = HexDigit(hex[1], upperOnly);
+        if (high < 0 || low < 0) throw Failure(Err::TypeMismatch);
+        bytes += static_cast<char>(high << 4 | low);
+    }
+    return bytes;
+}
+
+Text CipherEncrypt(const BlockCipher& cipher, TextView text) {
+    Text hex;
+    for (const char byte : cipher.Encrypt(ToCodePage(text))) AppendHex(hex, static_cast<unsigned char>(byte));
+    return hex;
+}
+
+Text CipherDecrypt(const BlockCipher& cipher, TextView hex) {
+    if (hex.size() % (2 * BlockCipher::kBlock) != 0) throw Failure(Err::Argument);
+    return FromCodePage(cipher.Decrypt(BytesOf(hex, true)));
+}
+
+} // namespace
+
+Text Encrypt(TextView sText) noexcept {
+    Text result;
+    try {
+        if (sText.empty()) return result;
+        BlockCipher cipher;
+        if (!cipher.SetKey(CipherKey())) return result;
+        Text plain = IsUnicodeBuild() ? UnicodeToHex(sText) : Text(sText);
+        plain.resize((plain.size() + BlockCipher::kBlock - 1) / BlockCipher::kBlock * BlockCipher::kBlock,
+                     u' ');
+        result = CipherEncrypt(cipher, plain);
+    } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.Encrypt"); }
+    return result;
+}
+
+Text Decrypt(TextView sText) noexcept {
+    Text result;
+    try {
+        if (sText.empty()) return result;
+        BlockCipher cipher;
+        if (!cipher.SetKey(CipherKey())) return result;
+        result = TrimmedEnd(CipherDecrypt(cipher, sText));
+    } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.Decrypt"); }
+    return result;
+}
+
+Text UnicodeToHex(TextView sText) noexcept {
+    Text result;
+    try {
+        result.reserve(sText.size() * 4);
+        for (const char16_t unit : sText) {
+            AppendHex(result, static_cast<unsigned char>(unit & 0xFF));
+            AppendHex(result, static_cast<unsigned char>(unit >> 8));
+        }
+    } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.UnicodeToHex"); }
+    return result;
+}
+
+Text HexToUnicode(TextView sHex) noexcept {
+    Text result;
+    try {
+        if (sHex.size() < 2) return result;
+        std::string bytes = BytesOf(sHex, false);
+        if (sHex.size() % 2 != 0) {
+            // Half the length, rounded to the even number, is how many bytes there is room for: a last single
+            // digit has a place behind 1 or 3 whole bytes and none behind 2 or 4.
+            if (bytes.size() == Rounded<std::size_t>(static_cast<double>(sHex.size()) / 2))
+                throw Failure(Err::Subscript);
+            const int digit = HexDigit(sHex.back(), false);
+            if (digit < 0) throw Failure(Err::TypeMismatch);
+            bytes += static_cast<char>(digit);
+        }
+        for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
+            result += static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) |
+                                            static_cast<unsigned char>(bytes[i + 1]) << 8);
+    } catch (...) {
+        result.clear();
+        ReportFailure(u"HTDRdd91 - basPublic.HexToUnicode");
+    }
+    return result;
+}
+
+} // namespace htdrdd::basPublic

@@ -1,0 +1,54 @@
+#include "foundation/basPublicText.h"
+
+#include "foundation/basError.h"
+#include "platform/number.h"
+#include "platform/process.h"
+
+#include <cmath>
+
+namespace htdrdd::basPublic {
+
+std::int32_t RandomNumber(std::int32_t lLower, std::int32_t lUpper) noexcept {
+    std::int32_t result = 0;
+    try {
+        const double unit = static_cast<double>(Seed() >> 11U) * 0x1p-53; // 0 to just below 1
+        result = Rounded<std::int32_t>(std::floor((static_cast<double>(lUpper) - lLower + 1) * unit + lLower));
+    } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.RandomNumber"); }
+    return result;
+}
+
+Text RemoveTrailingDelimiter(TextView sText, TextView sDelimiter) noexcept {
+    Text result;
+    try {
+        if (sText.ends_with(sDelimiter)) sText.remove_suffix(sDelimiter.size());
+        result = sText;
+    } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.RemoveTrailingDelimiter"); }
+    return result;
+}
+
+std::int32_t NumStringItems(TextView sText, TextView sDelimiter) noexcept {
+    std::int32_t result = 0;
+    EachPiece(sText, sDelimiter, [&](TextView) { ++result; });
+    const bool trailing = !sDelimiter.empty() && sText.ends_with(sDelimiter);
+    return trailing ? result - 1 : result;
+}
+
+double TextToDouble(TextView sValue) noexcept {
+    double result = 0;
+    IgnoreFailure([&] {
+        if (sValue.ends_with(u'%')) sValue.remove_suffix(1);
+        try {
+            result = sValue.find(u'.') != TextView::npos ? LeadingNumber(sValue) : RegionalNumber(sValue);
+        } catch (const Failure&) { result = LeadingNumber(sValue); }
+    });
+    return result;
+}
+
+double ToDouble(const Variant& vValue) noexcept {
+    if (const Text* text = vValue.AsText()) return TextToDouble(*text);
+    double result = 0;
+    IgnoreFailure([&] { result = vValue.ToDouble(); });
+    return result;
+}
+
+} // namespace htdrdd::basPublic

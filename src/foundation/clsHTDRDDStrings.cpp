@@ -1,0 +1,143 @@
+#include "foundation/clsHTDRDDStrings.h"
+
+#include "foundation/basError.h"
+#include "foundation/basPublicSort.h"
+
+#include <algorithm>
+
+namespace htdrdd {
+
+TextView clsHTDRDDStrings::Cut(TextView item) const noexcept {
+    return MaxLength > 0 ? item.substr(0, static_cast<std::size_t>(MaxLength)) : item;
+}
+
+/// Adds an item under its own full text, or without a key where that one is in use.
+void clsHTDRDDStrings::AddByOwnText(TextView item) {
+    const TextView cut = Cut(item);
+    if (cut.size() == item.size())
+        mItems.AddUnderOwnText(Text(item));
+    else
+        mItems.Add(Text(cut), mItems.Exists(item) ? std::nullopt : std::optional(item));
+}
+
+bool clsHTDRDDStrings::Add(TextView Item, std::optional<TextView> Key) noexcept {
+    bool result = false;
+    try {
+        mItems.Add(Text(Cut(Item)), Key);
+        result = true;
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.Add"); }
+    return result;
+}
+
+bool clsHTDRDDStrings::AddArray(const Array<Text>& Value) noexcept {
+    bool result = false;
+    try {
+        for (std::int32_t l = Value.LowerBound(); l <= Value.UpperBound(); ++l) AddByOwnText(Value.At(l));
+        result = true;
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AddArray"); }
+    return result;
+}
+
+bool clsHTDRDDStrings::AddDelimitedString(TextView Items, TextView sDelimiter) noexcept {
+    bool result = false;
+    try {
+        if (Items.empty()) return false;
+        std::size_t pieces = 0;
+        EachPiece(Items, sDelimiter, [&](TextView) { ++pieces; });
+        mItems.Reserve(pieces);
+        EachPiece(Items, sDelimiter, [&](TextView piece) { AddByOwnText(piece); });
+        result = true;
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AddDelimitedString"); }
+    return result;
+}
+
+bool clsHTDRDDStrings::Remove(const Index& Index) noexcept {
+    bool result = false;
+    try {
+        if (Exists(Index)) {
+            mItems.Remove(Index);
+            result = true;
+        }
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.Remove"); }
+    return result;
+}
+
+bool clsHTDRDDStrings::RemoveAll() noexcept {
+    mItems.RemoveAll();
+    return true;
+}
+
+const Text& clsHTDRDDStrings::Item(const Index& Index) const noexcept {
+    static const Text none;
+    const Text* const item = mItems.TryItem(Index);
+    return item != nullptr ? *item : none;
+}
+
+void clsHTDRDDStrings::Item(const Index& Index, TextView sNew) noexcept {
+    try {
+        if (Exists(Index)) mItems.Replace(Index, Text(Cut(sNew)));
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.Item"); }
+}
+
+std::int32_t clsHTDRDDStrings::Locate(TextView sItem, Compare eCompareMethod) const noexcept {
+    for (std::int32_t l = 1; l <= Count(); ++l)
+        if (SameText(Item(l), sItem, eCompareMethod)) return l;
+    return 0;
+}
+
+Text clsHTDRDDStrings::AsString(TextView sDelimiter) const noexcept {
+    Text result;
+    try {
+        for (std::int32_t l = 1; l <= Count(); ++l) result.append(Item(l)).append(sDelimiter);
+        if (!result.empty()) result.resize(result.size() - sDelimiter.size());
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AsString"); }
+    return result;
+}
+
+Array<Text> clsHTDRDDStrings::AsArray() const noexcept {
+    Array<Text> result;
+    try {
+        if (Count() == 0) return result;
+        std::vector<Text> items;
+        items.reserve(static_cast<std::size_t>(Count()));
+        for (std::int32_t l = 1; l <= Count(); ++l) items.push_back(Item(l));
+        result = Array<Text>(std::move(items), 1);
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AsArray"); }
+    return result;
+}
+
+Ref<clsHTDRDDStrings> clsHTDRDDStrings::Copy() const noexcept {
+    Ref<clsHTDRDDStrings> result;
+    try {
+        auto copy = Make<clsHTDRDDStrings>();
+        copy->MaxLength = MaxLength;
+        copy->AddDelimitedString(AsString(u"\t"), u"\t");
+        result = std::move(copy);
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.Copy"); }
+    return result;
+}
+
+bool clsHTDRDDStrings::Sort(bool bDescending) {
+    Array<Text> items = AsArray();
+    if (!basPublic::QuickSortArray(items, items.LowerBound(), items.UpperBound(), bDescending)) return false;
+    RemoveAll();
+    return AddArray(items);
+}
+
+bool clsHTDRDDStrings::SortAscending() noexcept {
+    bool result = false;
+    try {
+        result = Sort(false);
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.SortAscending"); }
+    return result;
+}
+
+bool clsHTDRDDStrings::SortDescending() noexcept {
+    bool result = false;
+    try {
+        result = Sort(true);
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.SortDescending"); }
+    return result;
+}
+
+} // namespace htdrdd

@@ -1,0 +1,83 @@
+/// Text properties that change what they store. They read and write like any other: `q.Notes = text`.
+#pragma once
+
+#include "foundation/basError.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace htdrdd {
+
+/// A text as a template argument.
+template <std::size_t N>
+struct Literal {
+    constexpr Literal(const char16_t (&text)[N]) { std::copy_n(text, N, units); } // NOLINT: as it is written
+    [[nodiscard]] constexpr TextView View() const { return {units, N - 1}; }
+    char16_t units[N]{};
+};
+
+class StoredText {
+public:
+    operator const Text&() const noexcept { return value_; }
+    operator TextView() const noexcept { return value_; }
+    [[nodiscard]] bool empty() const noexcept { return value_.empty(); }
+    friend bool operator==(const StoredText& a, TextView b) noexcept { return a.value_ == b; }
+
+protected:
+    Text value_;
+};
+
+/// Line ends as blanks: first each carriage return and line feed pair, then each line feed, then each
+/// carriage return.
+[[nodiscard]] Text FlattenedLineEnds(TextView text);
+
+/// A text that is kept on one line: line ends become blanks when it is assigned. A failure is reported under
+/// the location, and the old text stays.
+template <Literal Location>
+class OneLineText : public StoredText {
+public:
+    OneLineText& operator=(TextView value) noexcept {
+        try {
+            if (value.find_first_of(u"\r\n") == TextView::npos)
+                value_ = value;
+            else
+                value_ = FlattenedLineEnds(value);
+        } catch (...) { ReportFailure(Location.View()); }
+        return *this;
+    }
+};
+
+/// A text that loses its outer blanks when it is assigned.
+class TrimmedText : public StoredText {
+public:
+    TrimmedText& operator=(TextView value) {
+        value_ = Trimmed(value);
+        return *this;
+    }
+};
+
+/// A text that is kept as assigned and loses its outer blanks when it is read. A copy is made through the
+/// property and so is trimmed.
+class TextTrimmedOnRead {
+public:
+    TextTrimmedOnRead() = default;
+    TextTrimmedOnRead(const TextTrimmedOnRead&) = delete;
+    TextTrimmedOnRead& operator=(const TextTrimmedOnRead& other) {
+        if (this != &other) *this = TextView(other);
+        return *this;
+    }
+    TextTrimmedOnRead& operator=(TextView value) {
+        value_ = value;
+        return *this;
+    }
+    ~TextTrimmedOnRead() = default;
+    operator TextView() const noexcept { return Trimmed(value_); }
+    [[nodiscard]] bool empty() const noexcept { return TextView(*this).empty(); }
+    friend bool operator==(const TextTrimmedOnRead& a, TextView b) noexcept { return TextView(a) == b; }
+
+private:
+    Text value_;
+};
+
+} // namespace htdrdd

@@ -1,0 +1,66 @@
+#include "grade_scales/clsHTDRDDGradeScale.h"
+
+#include "foundation/basError.h"
+#include "foundation/basPublicText.h"
+#include "platform/number.h"
+
+namespace htdrdd {
+
+bool clsHTDRDDGradeScale::AddArrays(const Array<Text>& sGradesArr,
+                                    const Array<Text>& sStartValuesArr) noexcept {
+    bool result = false;
+    IgnoreFailure([&] {
+        if (sGradesArr.LowerBound() != sStartValuesArr.LowerBound() ||
+            sGradesArr.UpperBound() != sStartValuesArr.UpperBound())
+            return;
+        for (std::int32_t l = sGradesArr.LowerBound(); l <= sGradesArr.UpperBound(); ++l) {
+            auto item = Make<clsHTDRDDGradeScaleItem>();
+            item->Grade = sGradesArr.At(l);
+            item->StartValue = sStartValuesArr.At(l);
+            Add(std::move(item));
+        }
+        result = true;
+    });
+    return result;
+}
+
+bool clsHTDRDDGradeScale::AddDelimitedStrings(TextView sGrades, TextView sStartValues, TextView sDelimiter) {
+    return AddArrays(Split(sGrades, sDelimiter), Split(sStartValues, sDelimiter));
+}
+
+Array<Text> clsHTDRDDGradeScale::AsArray(bool bAsStartValues, std::int32_t lLowerBound) const {
+    if (Count() == 0) return {};
+    std::vector<Text> texts;
+    texts.reserve(static_cast<std::size_t>(Count()));
+    for (std::int32_t l = 1; l <= Count(); ++l) {
+        const auto& item = *mItems.Item(l);
+        texts.push_back(bAsStartValues ? item.StartValue : item.Grade);
+    }
+    return Array<Text>(std::move(texts), lLowerBound);
+}
+
+Text clsHTDRDDGradeScale::AsString(bool bAsStartValues, TextView sDelimiter) const {
+    return Join(AsArray(bAsStartValues), sDelimiter);
+}
+
+Ref<clsHTDRDDGradeScale> clsHTDRDDGradeScale::Copy() const {
+    auto copy = Make<clsHTDRDDGradeScale>();
+    copy->AddArrays(AsArray(false), AsArray(true));
+    copy->ScaleName = ScaleName;
+    return copy;
+}
+
+Text clsHTDRDDGradeScale::CalculateGrade(double dPercentScore, std::int16_t iDecimalPlaces) const noexcept {
+    Text result;
+    try {
+        // Through a text and back, so that the score is the very number that a start value of its digits is.
+        const double score = basPublic::TextToDouble(FixedText(dPercentScore, iDecimalPlaces));
+        const std::int32_t row = FirstPosition([score](const clsHTDRDDGradeScaleItem& item) {
+            return basPublic::TextToDouble(item.StartValue) <= score;
+        });
+        if (Count() > 0) result = mItems.Item(row > 0 ? row : Count())->Grade;
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDGradeScale.CalculateGrade"); }
+    return result;
+}
+
+} // namespace htdrdd

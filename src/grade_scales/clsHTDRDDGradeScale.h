@@ -1,0 +1,42 @@
+/// Grade scales: from a percentage to a grade.
+#pragma once
+
+#include "grade_scales/clsHTDRDDGradeScaleItem.h"
+#include "platform/array.h"
+#include "platform/object_list.h"
+
+#include <cstdint>
+
+namespace htdrdd {
+
+/// An ordered list of rows, meant to stand in descending order of start value with the last one at 0; adding
+/// enforces no order. A new scale has no rows. Add, Remove, Item and Exists are those of every list: a bad
+/// key, place or index fails to the caller.
+class clsHTDRDDGradeScale final : public ObjectList<clsHTDRDDGradeScaleItem> {
+public:
+    [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDGradeScale"; }
+
+    Text ScaleName;
+
+    /// Adds a row for each pair of elements behind the rows that are there. False, with nothing added, where
+    /// the bounds of the arrays differ; false in silence for a failure such as an array without storage, and
+    /// rows added up to then stay.
+    bool AddArrays(const Array<Text>& sGradesArr, const Array<Text>& sStartValuesArr) noexcept;
+    /// AddArrays of the pieces of two delimited texts, which aren't trimmed.
+    bool AddDelimitedStrings(TextView sGrades, TextView sStartValues, TextView sDelimiter = u"\t");
+
+    /// The grades, or the start values, from lLowerBound on; with no rows an array without storage.
+    [[nodiscard]] Array<Text> AsArray(bool bAsStartValues = false, std::int32_t lLowerBound = 1) const;
+    /// The same with the delimiter between them; with no rows empty.
+    [[nodiscard]] Text AsString(bool bAsStartValues = false, TextView sDelimiter = u"\t") const;
+
+    /// A new scale with rows of its own, without keys.
+    [[nodiscard]] Ref<clsHTDRDDGradeScale> Copy() const;
+
+    /// The grade of the first row whose start value isn't above the score, which is rounded to iDecimalPlaces
+    /// first; the last row's where there is none, and an empty text without rows. A failure, such as negative
+    /// places, is reported and gives an empty text.
+    [[nodiscard]] Text CalculateGrade(double dPercentScore, std::int16_t iDecimalPlaces = 3) const noexcept;
+};
+
+} // namespace htdrdd

@@ -1,0 +1,12 @@
+/// The settings of a report header.
+#pragma once
+
+#include "platform/dictionary.h"
+
+namespace htdrdd::basPublic {
+
+/// Empties a dictionary and gives it the 31 header settings with their defaults, in order. A failure is
+/// reported and leaves what was set up to then.
+void InitializeHeader(Dictionary& oHeader) noexcept;
+
+} // namespace htdrdd::basPublic

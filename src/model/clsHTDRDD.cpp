@@ -1,0 +1,131 @@
+#include "model/clsHTDRDD.h"
+
+#include "foundation/basError.h"
+#include "foundation/version.h"
+#include "model/basPublicHeader.h"
+#include "platform/number.h"
+#include "platform/thread_state.h"
+
+namespace htdrdd {
+
+clsHTDRDD::clsHTDRDD() noexcept {
+    try {
+        Questions = Make<clsHTDRDDQuestions>();
+        Versions = Make<clsHTDRDDVersions>();
+        Subtests = Make<clsHTDRDDSubtests>();
+        GradeScale = Make<clsHTDRDDGradeScale>();
+        SubtestGradeScale = Make<clsHTDRDDGradeScale>();
+        ScaledScore = Make<clsHTDRDDScaledScore>();
+        SubtestScaledScore = Make<clsHTDRDDScaledScore>();
+        Header = Make<Dictionary>();
+        Header->CompareMode(Compare::IgnoreCase);
+        basPublic::InitializeHeader(*Header);
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDD.Class_Initialize"); }
+}
+
+clsHTDRDD::~clsHTDRDD() {
+    Questions = nullptr;
+    Versions = nullptr;
+    Subtests = nullptr;
+    GradeScale = nullptr;
+    SubtestGradeScale = nullptr;
+    ScaledScore = nullptr;
+    SubtestScaledScore = nullptr;
+    oState = nullptr;
+    Header = nullptr;
+}
+
+void clsHTDRDD::Clear() {
+    Questions->RemoveAll();
+    Versions->Sequences->RemoveAll();
+    Versions->Answers->RemoveAll();
+    Versions->Question = 0;
+    Subtests->RemoveAll();
+    GradeScale->RemoveAll();
+    SubtestGradeScale->RemoveAll();
+    ScaledScore->Clear();
+    SubtestScaledScore->Clear();
+    basPublic::InitializeHeader(*Header);
+    TemplateName.clear();
+    ReportType = HTDReportTypeSurvey;
+    NumPages = 0;
+    Description.clear();
+    Notes.clear();
+    CustomHeader = false;
+    oState = nullptr;
+}
+
+bool clsHTDRDD::SetError(const Ref<LateBound>& oErr) {
+    ThisThread().errorHost = oErr;
+    return static_cast<bool>(oErr);
+}
+
+Text clsHTDRDD::Version() const { return DecimalText(kMajorVersion) + u'.' + DecimalText(kMinorVersion); }
+
+bool clsHTDRDD::AddDefaultSubtest() noexcept {
+    bool result = false;
+    try {
+        if (Subtests->Count() == 0) {
+            auto overall = Make<clsHTDRDDSubtest>();
+            overall->SubtestName = u"Overall";
+            Subtests->Add(std::move(overall));
+            for (std::int32_t l = 1; l <= Questions->Count(); ++l) {
+                const auto memberships = Questions->Item(l)->Subtests;
+                if (memberships->Count() == 0) memberships->Add(true);
+            }
+        }
+        result = Subtests->Count() >= 1;
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDSubtests.AddDefaultSubtest"); }
+    return result;
+}
+
+bool clsHTDRDD::GetExtraCredit(const Variant& lSubtest, std::int32_t* lNumQuestions,
+                               double* dPossiblePoints) const noexcept {
+    std::int32_t number = 0;
+    double points = 0;
+    bool result = false;
+    try {
+        const double subtest = lSubtest.ToDouble();
+        if (subtest > 0 && subtest <= Subtests->Count()) {
+            const auto position = Rounded<std::int32_t>(subtest);
+            for (std::int32_t l = 1; l <= Questions->Count(); ++l) {
+                const auto question = Questions->Item(l);
+                if (!question->Subtests->Includes(position) || !question->ExtraCredit) continue;
+                if (!question->IncludeGrade && !question->SubjectiveField) continue;
+                ++number;
+                points += question->IncludeGrade ? question->CorrectPoints : question->SubjectivePoints;
+            }
+            result = number > 0;
+        }
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDD.GetExtraCredit"); }
+    if (lNumQuestions != nullptr) *lNumQuestions = number;
+    if (dPossiblePoints != nullptr) *dPossiblePoints = points;
+    return result;
+}
+
+Ref<SharedCollection<std::int32_t>> clsHTDRDD::GetSubtestQuestions(const Variant& vSubtest) const noexcept {
+    Ref<SharedCollection<std::int32_t>> result;
+    try {
+        std::int32_t position = 0;
+        if (const Text* name = vSubtest.AsText()) {
+            for (std::int32_t l = 1; position == 0 && l <= Subtests->Count(); ++l)
+                if (SameText(Subtests->Item(l)->SubtestName, *name)) position = l;
+            if (position == 0) return result;
+        } else if (vSubtest.Is() == Variant::Kind::Integer16 || vSubtest.Is() == Variant::Kind::Integer32) {
+            position = vSubtest.ToInteger32();
+        } else {
+            return result;
+        }
+        auto questions = Make<SharedCollection<std::int32_t>>();
+        if (position >= 1 && position <= Subtests->Count()) {
+            for (std::int32_t l = 1; l <= Questions->Count(); ++l) {
+                const auto question = Questions->Item(l);
+                if (question->Subtests->Includes(position)) questions->Add(l, question->QuestionName);
+            }
+        }
+        result = std::move(questions);
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDD.GetSubtestQuestions"); }
+    return result;
+}
+
+} // namespace htdrdd

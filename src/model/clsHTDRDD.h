@@ -1,0 +1,87 @@
+/// The report definition document.
+#pragma once
+
+#include "grade_scales/clsHTDRDDGradeScale.h"
+#include "model/clsHTDRDDQuestions.h"
+#include "model/clsHTDRDDSubtests.h"
+#include "model/clsHTDRDDVersions.h"
+#include "platform/collection.h"
+#include "platform/dictionary.h"
+#include "platform/event.h"
+#include "platform/late_bound.h"
+#include "scaled_scores/clsHTDRDDScaledScore.h"
+
+#include <cstdint>
+
+namespace htdrdd {
+
+enum HTDReportType : std::int32_t {
+    HTDReportTypeGrade = 1,
+    HTDReportTypeSurvey = 2,
+    HTDReportTypeGenericGrade = 3, ///< a generic key, to be merged into other definitions
+};
+
+/// One report definition: the answer key of a test or a survey. `Make<clsHTDRDD>()` gives an empty one.
+/// Object members are shared references: assigning one replaces it, nothing is copied or checked.
+class clsHTDRDD final : public Object {
+public:
+    /// Makes the members. A failure is reported.
+    clsHTDRDD() noexcept;
+    [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDD"; }
+
+    Ref<clsHTDRDDQuestions> Questions;
+    Ref<clsHTDRDDVersions> Versions;
+    Ref<clsHTDRDDSubtests> Subtests;              ///< learning objectives; position 1 is the overall one
+    Ref<clsHTDRDDGradeScale> GradeScale;          ///< of the overall learning objective
+    Ref<clsHTDRDDScaledScore> ScaledScore;        ///< of the overall learning objective
+    Ref<clsHTDRDDGradeScale> SubtestGradeScale;   ///< shared by the other learning objectives
+    Ref<clsHTDRDDScaledScore> SubtestScaledScore; ///< shared by the other learning objectives
+    Ref<Dictionary> Header;                       ///< settings of the report header; keys in any case
+    Ref<Object> oState;                           ///< a slot for the host; Clear, and so Read, empties it
+
+    /// Resets everything but FileName, and makes the definition a survey. A failure passes to the caller.
+    void Clear();
+
+    /// Reads a definition file into this object. False for a file that isn't there, with nothing changed; for
+    /// a file that isn't a definition or is broken, with the complaint made and with what was read up to
+    /// then. A true result sets FileName. AfterRead is raised in any case.
+    bool Read(TextView sRDDFile);
+
+    /// Registers the host object of this thread, for all definitions, until another takes its place; an empty
+    /// reference goes back to Error.log. Whether a host is registered now.
+    bool SetError(const Ref<LateBound>& oErr);
+
+    Text FileName; ///< path last read or saved
+    Text TemplateName;
+    Text Description;
+    Text Notes;
+    HTDReportType ReportType{}; ///< 0 in a new object
+    /// The library's own version, "9.1".
+    [[nodiscard]] Text Version() const;
+    std::int32_t NumPages = 0;
+
+    /// The extra credit in a subtest: number of questions and possible points. False without any, for a
+    /// subtest that isn't there (both are 0 then), and after a failure, which is reported.
+    bool GetExtraCredit(const Variant& lSubtest = 1, std::int32_t* lNumQuestions = nullptr,
+                        double* dPossiblePoints = nullptr) const noexcept;
+
+    /// Positions of the questions of a subtest, which is given by position or by name (case ignored), under
+    /// the question names as keys. Empty for an unknown name, for a value that is neither an integer nor a
+    /// text, and after a failure, which is reported; a collection without entries for a position that isn't
+    /// there.
+    [[nodiscard]] Ref<SharedCollection<std::int32_t>>
+    GetSubtestQuestions(const Variant& vSubtest) const noexcept;
+
+    /// Sees to it that there is an overall learning objective; where one is made, questions without
+    /// memberships join it. False after a failure, which is reported.
+    bool AddDefaultSubtest() noexcept;
+
+    bool CustomHeader = false; ///< whether the host uses the header settings
+
+    Event AfterRead; ///< raised at the end of every Read
+
+protected:
+    ~clsHTDRDD() override;
+};
+
+} // namespace htdrdd

@@ -1,0 +1,208 @@
+/// The ordered list behind all list classes.
+#pragma once
+
+#include "platform/failure.h"
+#include "platform/object.h"
+#include "platform/text.h"
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <type_traits>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace htdrdd {
+
+/// What names an entry of a list: a number is a position from 1, a text is a key. It refers to the text that
+/// it was made from.
+class Index {
+public:
+    Index(std::int32_t position) : position_(position) {}
+    Index(TextView key) : key_(key) {}
+    Index(const Text& key) : key_(TextView(key)) {}
+    Index(const char16_t* key) : key_(TextView(key)) {}
+
+    /// The position, where the index is one.
+    [[nodiscard]] std::int32_t Position() const noexcept { return position_; }
+    /// The key, where the index is one.
+    [[nodiscard]] const std::optional<TextView>& Key() const noexcept { return key_; }
+
+private:
+    std::int32_t position_ = 0;
+    std::optional<TextView> key_;
+};
+
+namespace detail {
+
+/// The key of an entry: none, the entry's own text (which costs nothing), or a text apart.
+class EntryKey {
+public:
+    EntryKey() = default;
+    explicit EntryKey(TextView text) : text_(new Text(text)) {}
+    static EntryKey OwnText() {
+        EntryKey key;
+        key.text_.reset(&kOwnText);
+        return key;
+    }
+    /// The text, where there is a key; `own` is the entry's.
+    [[nodiscard]] const Text* Of(const Text* own) const noexcept {
+        return text_.get() == &kOwnText ? own : text_.get();
+    }
+
+private:
+    static inline const Text kOwnText;
+    struct Delete {
+        void operator()(const Text* text) const noexcept {
+            if (text != &kOwnText) delete text;
+        }
+    };
+    std::unique_ptr<const Text, Delete> text_;
+};
+
+} // namespace detail
+
+/// Entries with positions from 1 and optional unique keys. Keys compare without regard to case, and the empty
+/// text is a key like any other.
+template <class T>
+class Collection {
+public:
+    [[nodiscard]] std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
+
+    /// Adds at the end, or before or after an entry. Fails, and changes nothing, with 457 where the key is in
+    /// use, with 5 where both places are given, and as Item does where the place isn't there.
+    void Add(T item, std::optional<TextView> key = {}, const std::optional<Index>& before = {},
+             const std::optional<Index>& after = {}, Where at = Where::current()) {
+        const std::size_t slot = Place(before, after, at);
+        if (key && FindKey(*key)) throw Failure(Err::KeyInUse, at);
+        Insert(slot, {std::move(item), key ? detail::EntryKey(*key) : detail::EntryKey()}, at);
+    }
+
+    /// Adds at the end under the item's own text as its key, or without a key where that one is in use.
+    void AddUnderOwnText(T item, Where at = Where::current()) requires std::is_same_v<T, Text> {
+        auto key = FindKey(item) ? detail::EntryKey() : detail::EntryKey::OwnText();
+        Insert(entries_.size(), {std::move(item), std::move(key)}, at);
+    }
+
+    /// Fails with 9 for a position that isn't there, with 5 for an unknown key.
+    void Remove(const Index& index, Where at = Where::current()) {
+        const std::size_t slot = Find(index, at);
+        if (const Text* key = KeyOf(entries_[slot]); slotOfKey_ && slot + 1 == entries_.size()) {
+            if (key != nullptr) slotOfKey_->erase(Folded(*key));
+        } else {
+            slotOfKey_.reset();
+        }
+        entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(slot));
+    }
+
+    void RemoveAll() noexcept {
+        slotOfKey_.reset();
+        entries_.clear();
+    }
+
+    /// Puts another item in an entry's place. The position stays; a key that the entry had is lost. Fails as
+    /// Item does.
+    void Replace(const Index& index, T item, Where at = Where::current()) {
+        Entry& entry = entries_[Find(index, at)];
+        slotOfKey_.reset();
+        entry = Entry{std::move(item), {}};
+    }
+
+    /// Fails with 9 for a position that isn't there, with 5 for an unknown key.
+    [[nodiscard]] const T& Item(const Index& index, Where at = Where::current()) const {
+        return entries_[Find(index, at)].item;
+    }
+
+    /// The item, or a null pointer where there is none. Nothing fails.
+    [[nodiscard]] const T* TryItem(const Index& index) const noexcept {
+        try {
+            const auto slot = Slot(index);
+            return slot ? &entries_[*slot].item : nullptr;
+        } catch (...) { // no memory to look a key up, so it can't be read
+            return nullptr;
+        }
+    }
+    [[nodiscard]] bool Exists(const Index& index) const noexcept { return TryItem(index) != nullptr; }
+
+    /// Makes room for more entries.
+    void Reserve(std::size_t more) { entries_.reserve(entries_.size() + more); }
+
+private:
+    struct Entry {
+        T item;
+        detail::EntryKey key;
+    };
+    /// Shorter lists are searched from the front.
+    static constexpr std::size_t kIndexedFrom = 16;
+
+    static const Text* KeyOf(const Entry& entry) noexcept {
+        if constexpr (std::is_same_v<T, Text>)
+            return entry.key.Of(&entry.item);
+        else
+            return entry.key.Of(nullptr);
+    }
+
+    std::optional<std::size_t> FindKey(TextView key) const {
+        if (entries_.size() < kIndexedFrom) {
+            for (std::size_t slot = 0; slot < entries_.size(); ++slot)
+                if (const Text* own = KeyOf(entries_[slot]); own != nullptr && SameText(*own, key))
+                    return slot;
+            return {};
+        }
+        if (!slotOfKey_) {
+            auto slots = std::make_unique<SlotOfKey>();
+            for (std::size_t slot = 0; slot < entries_.size(); ++slot)
+                if (const Text* own = KeyOf(entries_[slot])) slots->emplace(Folded(*own), slot);
+            slotOfKey_ = std::move(slots);
+        }
+        const auto found = slotOfKey_->find(Folded(key));
+        return found != slotOfKey_->end() ? std::optional(found->second) : std::nullopt;
+    }
+
+    std::optional<std::size_t> Slot(const Index& index) const {
+        if (index.Key()) return FindKey(*index.Key());
+        const std::int32_t position = index.Position();
+        if (position < 1 || position > Count()) return {};
+        return static_cast<std::size_t>(position) - 1;
+    }
+
+    std::size_t Find(const Index& index, Where at) const {
+        if (const auto slot = Slot(index)) return *slot;
+        throw Failure(index.Key() ? Err::Argument : Err::Subscript, at);
+    }
+
+    std::size_t Place(const std::optional<Index>& before, const std::optional<Index>& after, Where at) const {
+        if (before && after) throw Failure(Err::Argument, at);
+        if (before) return Find(*before, at);
+        return after ? Find(*after, at) + 1 : entries_.size();
+    }
+
+    void Insert(std::size_t slot, Entry entry, Where at) {
+        if (entries_.size() == static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()))
+            throw Failure(Err::Overflow, at);
+        if (slot < entries_.size()) {
+            entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(slot), std::move(entry));
+            slotOfKey_.reset();
+            return;
+        }
+        entries_.push_back(std::move(entry));
+        if (const Text* key = KeyOf(entries_.back()); slotOfKey_ && key != nullptr) try {
+                slotOfKey_->emplace(Folded(*key), slot);
+            } catch (...) { // the entry is in; the slots are gathered anew when they are asked for
+                slotOfKey_.reset();
+            }
+    }
+
+    using SlotOfKey = std::unordered_map<Text, std::size_t>;
+    std::vector<Entry> entries_;
+    mutable std::unique_ptr<SlotOfKey>
+        slotOfKey_; ///< by folded key; made when a long list is asked for a key
+};
+
+/// A collection that is handed out by reference.
+template <class T>
+class SharedCollection final : public Object, public Collection<T> {};
+
+} // namespace htdrdd

@@ -1,0 +1,88 @@
+/// The files of the machine, behind one seam that tests replace.
+#pragma once
+
+#include "platform/failure.h"
+#include "platform/text.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <string_view>
+
+namespace htdrdd {
+
+/// Bytes read from a file, aligned for wide units.
+class Bytes {
+public:
+    Bytes() = default;
+    /// Room for bytes whose content is not set yet.
+    explicit Bytes(std::size_t size);
+
+    [[nodiscard]] char* Data() noexcept { return data_.get(); }
+    [[nodiscard]] std::string_view View() const noexcept { return {data_.get(), size_}; }
+    /// Forgets what stands behind the first `size` bytes.
+    void Shorten(std::size_t size) noexcept { size_ = size; }
+
+private:
+    struct Free {
+        void operator()(char* data) const noexcept;
+    };
+    std::unique_ptr<char, Free> data_;
+    std::size_t size_ = 0;
+};
+
+/// A file that is being written. Destroying it without Close drops what Close would have reported.
+class FileWriter {
+public:
+    FileWriter() = default;
+    FileWriter(const FileWriter&) = delete;
+    FileWriter& operator=(const FileWriter&) = delete;
+    virtual ~FileWriter() = default;
+    virtual void Write(std::string_view bytes, Where at = Where::current()) = 0;
+    virtual void Close(Where at = Where::current()) = 0;
+};
+
+/// The file system. Names are literal, without wildcards, and a name with NUL fails with 52. Other failures:
+/// 53 no such file, 76 no such folder, 70 a folder or no right, 61 disk full, 57 device, 75 anything else.
+class FileSystem {
+public:
+    FileSystem() = default;
+    FileSystem(const FileSystem&) = delete;
+    FileSystem& operator=(const FileSystem&) = delete;
+    virtual ~FileSystem() = default;
+
+    /// True for regular files only. Nothing fails.
+    [[nodiscard]] virtual bool FileExists(TextView path) = 0;
+    [[nodiscard]] virtual bool FolderExists(TextView path) = 0;
+    /// The first bytes of a file, as many as there are up to the limit.
+    [[nodiscard]] virtual Bytes Read(TextView path,
+                                     std::size_t limit = std::numeric_limits<std::size_t>::max(),
+                                     Where at = Where::current()) = 0;
+    /// Opens a file to write at its end; it is made where it is missing.
+    [[nodiscard]] virtual std::unique_ptr<FileWriter> OpenForAppending(TextView path,
+                                                                       Where at = Where::current()) = 0;
+    /// Copies a file over another or to a new name.
+    virtual void CopyFile(TextView from, TextView to, Where at = Where::current()) = 0;
+    /// Deletes a file, also a read-only one.
+    virtual void DeleteFile(TextView path, Where at = Where::current()) = 0;
+    /// The folder for temporary files.
+    [[nodiscard]] virtual Text TemporaryFolder(Where at = Where::current()) = 0;
+};
+
+/// The file system of the operating system.
+[[nodiscard]] FileSystem& MachineFileSystem();
+
+/// The file system that this thread works on, at first that of the machine.
+[[nodiscard]] FileSystem& CurrentFileSystem();
+/// Replaces it; a null pointer goes back to that of the machine. The caller keeps it alive.
+void UseFileSystem(FileSystem* files);
+
+/// A folder and a name with one separator between them.
+[[nodiscard]] Text BuildPath(TextView folder, TextView name);
+/// The last part of a path.
+[[nodiscard]] TextView FileNameOf(TextView path) noexcept;
+/// What stands in front of the last part, without the separator; empty where there is nothing.
+[[nodiscard]] TextView FolderOf(TextView path) noexcept;
+
+} // namespace htdrdd

@@ -1,0 +1,23 @@
+/// Objects whose members are called by name.
+#pragma once
+
+#include "platform/object.h"
+#include "platform/variant.h"
+
+#include <span>
+
+namespace htdrdd {
+
+/// An object that is bound by member name at run time. A member that isn't there fails with 438.
+class LateBound : public Object {
+public:
+    /// Reads a property.
+    virtual Variant Get(TextView name);
+    /// Writes a property.
+    virtual void Put(TextView name, const Variant& value);
+    /// Calls a method. Every argument is by reference: what the method writes to it, the caller sees. A
+    /// missing argument is one that was left out.
+    virtual Variant Call(TextView name, std::span<Variant> arguments);
+};
+
+} // namespace htdrdd

@@ -1,0 +1,109 @@
+/// Shared objects and references to them.
+#pragma once
+
+#include "platform/failure.h"
+#include "platform/text.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+namespace htdrdd {
+
+/// Base of everything that can be referred to. It ends with its last reference. An object and all references
+/// to it belong to one thread at a time.
+class Object {
+public:
+    Object() = default;
+    Object(const Object&) = delete;
+    Object& operator=(const Object&) = delete;
+    Object(Object&&) = delete;
+    Object& operator=(Object&&) = delete;
+
+    /// The name under which outside hosts know the class; empty for classes that they don't see.
+    [[nodiscard]] virtual TextView ClassName() const noexcept { return {}; }
+
+protected:
+    virtual ~Object() = default;
+
+private:
+    template <class T>
+    friend class Ref;
+    void AddRef() const noexcept { ++references_; }
+    void Release() const noexcept {
+        if (--references_ == 0) delete this;
+    }
+
+    mutable std::uint32_t references_ = 0;
+};
+
+/// A shared reference, possibly empty. Assigning replaces the reference, nothing is copied. Using an empty
+/// one fails with 91.
+template <class T>
+class Ref {
+public:
+    Ref() = default;
+    Ref(std::nullptr_t) {}
+    explicit Ref(T* object) : object_(object) { Hold(); }
+    Ref(const Ref& other) : object_(other.object_) { Hold(); }
+    Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+    template <class U>
+    requires(!std::is_same_v<T, U> && std::is_convertible_v<U*, T*>) Ref(const Ref<U>& other)
+        : object_(other.Get()) {
+        Hold();
+    }
+    Ref& operator=(Ref other) noexcept {
+        std::swap(object_, other.object_);
+        return *this;
+    }
+    ~Ref() { Drop(); }
+
+    T* operator->() const { return &Demand(); }
+    T& operator*() const { return Demand(); }
+    /// The object, or a null pointer.
+    [[nodiscard]] T* Get() const noexcept { return object_; }
+    explicit operator bool() const noexcept { return object_ != nullptr; }
+    friend bool operator==(const Ref& a, const Ref& b) noexcept { return a.object_ == b.object_; }
+
+private:
+    T& Demand() const {
+        if (object_ == nullptr) throw Failure(Err::NotSet);
+        return *object_;
+    }
+    void Hold() const noexcept {
+        if (object_ != nullptr) static_cast<const Object*>(object_)->AddRef();
+    }
+    void Drop() const noexcept {
+        if (object_ != nullptr) static_cast<const Object*>(object_)->Release();
+    }
+
+    T* object_ = nullptr;
+};
+
+/// A new object with one reference to it.
+template <class T, class... Arguments>
+[[nodiscard]] Ref<T> Make(Arguments&&... arguments) {
+    return Ref<T>(new T(std::forward<Arguments>(arguments)...));
+}
+
+/// A reference whose object is made on first access: it never reads as empty.
+template <class T>
+class LazyRef {
+public:
+    LazyRef& operator=(Ref<T> object) noexcept {
+        object_ = std::move(object);
+        return *this;
+    }
+    operator const Ref<T>&() const { return Made(); }
+    T* operator->() const { return Made().Get(); }
+    T& operator*() const { return *Made(); }
+
+private:
+    const Ref<T>& Made() const {
+        if (!object_) object_ = Make<T>();
+        return object_;
+    }
+    mutable Ref<T> object_;
+};
+
+} // namespace htdrdd

@@ -1,0 +1,24 @@
+/// The region: how people of this machine write numbers and dates.
+#pragma once
+
+#include "platform/text.h"
+
+#include <string>
+
+namespace htdrdd {
+
+struct Region {
+    char16_t decimalMark = u'.';
+    char16_t groupMark = u','; ///< 0: none
+    Text currencySign = u"$";
+    std::string dateForm = "%-m/%-d/%Y %-I:%M:%S %p"; ///< date and time, as strftime takes it
+};
+
+/// What the machine's locale settings say, read without changing the process's locale. Settings that name no
+/// installed locale give the defaults above.
+[[nodiscard]] Region MachineRegion();
+
+/// The region of this thread, at first that of the machine. Assign to it to choose another.
+[[nodiscard]] Region& CurrentRegion();
+
+} // namespace htdrdd

@@ -1,0 +1,46 @@
+/// Text files, line by line.
+#pragma once
+
+#include "platform/file_system.h"
+#include "platform/text.h"
+
+#include <memory>
+
+namespace htdrdd {
+
+enum class Encoding {
+    CodePage, ///< single bytes, Windows-1252
+    Unicode,  ///< UTF-16 little-endian with a byte order mark
+};
+
+/// A text file being read. It takes the whole text at once; lines refer to it and last as long as the reader.
+class TextReader {
+public:
+    /// A Unicode text's byte order mark is skipped and an odd last byte is dropped.
+    TextReader(FileSystem& files, TextView path, Encoding encoding, Where at = Where::current());
+
+    /// True as soon as nothing is left.
+    [[nodiscard]] bool AtEndOfStream() const noexcept { return rest_.empty(); }
+    /// The next line without its end, a line feed with at most one carriage return in front; a carriage
+    /// return alone is content. Fails with 62 at the end.
+    [[nodiscard]] TextView ReadLine(Where at = Where::current());
+
+private:
+    Bytes bytes_;
+    Text text_; ///< a text that isn't in `bytes_` as it stands
+    TextView rest_;
+};
+
+/// Appends to a text file in the code page; the file is made where it is missing.
+class TextAppender {
+public:
+    TextAppender(FileSystem& files, TextView path, Where at = Where::current());
+    /// Writes a line and its end, carriage return and line feed.
+    void WriteLine(TextView line, Where at = Where::current());
+    void Close(Where at = Where::current());
+
+private:
+    std::unique_ptr<FileWriter> file_;
+};
+
+} // namespace htdrdd

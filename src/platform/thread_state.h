@@ -1,0 +1,21 @@
+/// What exists once for each thread.
+#pragma once
+
+#include "platform/desktop.h"
+#include "platform/file_system.h"
+#include "platform/late_bound.h"
+#include "platform/region.h"
+
+namespace htdrdd {
+
+struct ThreadState {
+    Region region = MachineRegion();
+    FileSystem* files = nullptr; ///< none: that of the machine
+    Desktop* desktop = nullptr;  ///< none: that of the machine
+    Ref<LateBound> errorHost;    ///< what complaints are handed to, if anything
+};
+
+/// The state of the calling thread. It is made on first use and ends with the thread.
+[[nodiscard]] ThreadState& ThisThread();
+
+} // namespace htdrdd

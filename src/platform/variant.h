@@ -1,0 +1,58 @@
+/// Values of any kind, as late-bound members take and give them.
+#pragma once
+
+#include "platform/object.h"
+#include "platform/text.h"
+
+#include <concepts>
+#include <cstdint>
+#include <variant>
+
+namespace htdrdd {
+
+/// A value of any kind. "Missing" is an optional argument that was left out; "empty" was never filled.
+class Variant {
+public:
+    enum class Kind { Missing, Empty, Null, Boolean, Integer16, Integer32, Double, String, Reference };
+
+    Variant() = default; ///< missing
+    Variant(bool value) : value_(value) {}
+    Variant(std::int16_t value) : value_(value) {}
+    Variant(std::int32_t value) : value_(value) {}
+    Variant(double value) : value_(value) {}
+    Variant(Text value) : value_(std::move(value)) {}
+    Variant(TextView value) : value_(Text(value)) {}
+    Variant(const char16_t* value) : value_(Text(value)) {}
+    /// A reference, which may be empty.
+    template <std::derived_from<Object> T>
+    Variant(const Ref<T>& value) : value_(Ref<Object>(value)) {}
+    static Variant Empty() { return Variant(Storage(std::in_place_index<1>)); }
+    static Variant Null() { return Variant(Storage(std::in_place_index<2>)); }
+
+    [[nodiscard]] Kind Is() const noexcept { return static_cast<Kind>(value_.index()); }
+    [[nodiscard]] bool IsMissing() const noexcept { return Is() == Kind::Missing; }
+    /// The text or reference as it is held, or a null pointer where the value is of another kind.
+    [[nodiscard]] const Text* AsText() const noexcept { return std::get_if<Text>(&value_); }
+    [[nodiscard]] const Ref<Object>* AsObject() const noexcept { return std::get_if<Ref<Object>>(&value_); }
+
+    /// Conversions. Empty is 0, false and the empty text; texts are read and numbers are written by the rules
+    /// of the region; any number but 0 is true. Null fails with 94, missing with 449, an object with 438, a
+    /// text that is no number with 13, a number out of range with 6.
+    [[nodiscard]] double ToDouble(Where at = Where::current()) const;
+    [[nodiscard]] std::int32_t ToInteger32(Where at = Where::current()) const;
+    [[nodiscard]] std::int16_t ToInteger16(Where at = Where::current()) const;
+    [[nodiscard]] bool ToBoolean(Where at = Where::current()) const;
+    [[nodiscard]] Text ToText(Where at = Where::current()) const;
+
+private:
+    struct MissingValue {};
+    struct EmptyValue {};
+    struct NullValue {};
+    using Storage = std::variant<MissingValue, EmptyValue, NullValue, bool, std::int16_t, std::int32_t,
+                                 double, Text, Ref<Object>>;
+    explicit Variant(Storage value) : value_(std::move(value)) {}
+
+    Storage value_;
+};
+
+} // namespace htdrdd

@@ -1,0 +1,23 @@
+#include "scaled_scores/scaled_score_members.h"
+
+#include "foundation/basPublicCipher.h"
+
+namespace htdrdd {
+namespace {
+
+template <class Property>
+void DecipherProperty(Property& property, bool bUnicode) {
+    if (property.empty()) return;
+    property = basPublic::Decrypt(property);
+    if (bUnicode) property = basPublic::HexToUnicode(property);
+}
+
+} // namespace
+
+void DecipherConnection(clsHTDRDDScaledScoreDB& DB, bool bUnicode) {
+    DecipherProperty(DB.Connect, bUnicode);
+    DecipherProperty(DB.User, bUnicode);
+    DecipherProperty(DB.Password, bUnicode);
+}
+
+} // namespace htdrdd

@@ -1,0 +1,65 @@
+/// The members of a scaled score as they stand in files.
+#pragma once
+
+#include "foundation/value_forms.h"
+#include "scaled_scores/clsHTDRDDScaledScore.h"
+
+#include <array>
+
+namespace htdrdd {
+
+/// One member: its key, and how its value is put in.
+struct ScaledScoreMember {
+    TextView key;
+    void (*put)(clsHTDRDDScaledScore& score, TextView value, Where at);
+};
+
+template <auto Field>
+constexpr ScaledScoreMember OfScore(TextView key) {
+    return {key, [](clsHTDRDDScaledScore& score, TextView value, Where at) {
+                ReadValue(value, score.*Field, at);
+            }};
+}
+template <auto Field>
+constexpr ScaledScoreMember OfDB(TextView key) {
+    return {key, [](clsHTDRDDScaledScore& score, TextView value, Where at) {
+                ReadValue(value, (*score.DB).*Field, at);
+            }};
+}
+
+/// In the order of writing.
+inline constexpr std::array kScaledScoreMembers{
+    OfScore<&clsHTDRDDScaledScore::ScaledScoreName>(u"ScaledScoreName"),
+    OfScore<&clsHTDRDDScaledScore::ScaledScoreCriteriaPrimary>(u"ScaledScoreCriteriaPrimary"),
+    OfScore<&clsHTDRDDScaledScore::ScaledScoreCriteriaSecondary>(u"ScaledScoreCriteriaSecondary"),
+    OfScore<&clsHTDRDDScaledScore::ScaledScoreValues>(u"ScaledScoreValues"),
+    OfScore<&clsHTDRDDScaledScore::LearningObjectivePrimary>(u"ScaledScoreLearningObjectivePrimary"),
+    OfScore<&clsHTDRDDScaledScore::LearningObjectiveSecondary>(u"ScaledScoreLearningObjectiveSecondary"),
+    OfScore<&clsHTDRDDScaledScore::Precision>(u"ScaledScorePrecision"),
+    OfDB<&clsHTDRDDScaledScoreDB::Name>(u"ScaledScoreDBName"),
+    OfDB<&clsHTDRDDScaledScoreDB::Catalog>(u"ScaledScoreDBCatalog"),
+    OfDB<&clsHTDRDDScaledScoreDB::Table>(u"ScaledScoreDBTable"),
+    OfDB<&clsHTDRDDScaledScoreDB::MinFieldPrimary>(u"ScaledScoreDBMinFieldPrimary"),
+    OfDB<&clsHTDRDDScaledScoreDB::MaxFieldPrimary>(u"ScaledScoreDBMaxFieldPrimary"),
+    OfDB<&clsHTDRDDScaledScoreDB::MinFieldSecondary>(u"ScaledScoreDBMinFieldSecondary"),
+    OfDB<&clsHTDRDDScaledScoreDB::MaxFieldSecondary>(u"ScaledScoreDBMaxFieldSecondary"),
+    OfDB<&clsHTDRDDScaledScoreDB::ScoreField>(u"ScaledScoreDBScoreField"),
+    OfDB<&clsHTDRDDScaledScoreDB::ScoreGrade>(u"ScaledScoreDBScoreGrade"),
+    OfDB<&clsHTDRDDScaledScoreDB::DBType>(u"ScaledScoreDBType"),
+    OfDB<&clsHTDRDDScaledScoreDB::DSNBased>(u"ScaledScoreDBDSNBased"),
+    OfDB<&clsHTDRDDScaledScoreDB::DirectoryBased>(u"ScaledScoreDBDirectoryBased"),
+    OfDB<&clsHTDRDDScaledScoreDB::DSNName>(u"ScaledScoreDBDSNName"),
+    OfDB<&clsHTDRDDScaledScoreDB::User>(u"ScaledScoreDBUser"),         // enciphered,
+    OfDB<&clsHTDRDDScaledScoreDB::Password>(u"ScaledScoreDBPassword"), // enciphered,
+    OfDB<&clsHTDRDDScaledScoreDB::Connect>(u"ScaledScoreDBConnect"),   // enciphered
+};
+static_assert(kScaledScoreMembers.size() == 23);
+
+/// Tells whether the enciphered texts are in hexadecimal form. It belongs to no member and stands behind
+/// them.
+inline constexpr TextView kScaledScoreUnicodeKey = u"ScaledScoreDBUnicode";
+
+/// Deciphers Connect, User and Password where they aren't empty.
+void DecipherConnection(clsHTDRDDScaledScoreDB& DB, bool bUnicode);
+
+} // namespace htdrdd
