@@ -73,7 +73,8 @@ bool QuickSortNumericStringArray(Array<Text>& sArray, std::int32_t lFirst, std::
         Text* const end = &sArray.At(lLast) + 1;
         std::vector<Numbered> items;
         items.reserve(static_cast<std::size_t>(end - first));
-        for (Text* text = first; text != end; ++text) items.push_back({TextToDouble(*text), std::move(*text)});
+        for (Text* text = first; text != end; ++text)
+            items.push_back({TextToDouble(*text), std::move(*text)});
         if (bDescending)
             SortByNumber(items, std::greater<>());
         else

@@ -12,7 +12,8 @@ std::int32_t RandomNumber(std::int32_t lLower, std::int32_t lUpper) noexcept {
     std::int32_t result = 0;
     try {
         const double unit = static_cast<double>(Seed() >> 11U) * 0x1p-53; // 0 to just below 1
-        result = Rounded<std::int32_t>(std::floor((static_cast<double>(lUpper) - lLower + 1) * unit + lLower));
+        result =
+            Rounded<std::int32_t>(std::floor((static_cast<double>(lUpper) - lLower + 1) * unit + lLower));
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.RandomNumber"); }
     return result;
 }

@@ -81,8 +81,8 @@ std::int32_t clsHTDRDDQuestions::NextTallied(std::int32_t lCurrentPosition) cons
                 [](const Question& q) { return q.IncludeTally; });
 }
 
-void clsHTDRDDQuestions::Add(Ref<clsHTDRDDQuestion> Item, std::optional<TextView> Key,
-                             const std::optional<Index>& Before, const std::optional<Index>& After) noexcept {
+void clsHTDRDDQuestions::Add(Ref<clsHTDRDDQuestion> Item, std::optional<TextView> Key, const Index& Before,
+                             const Index& After) noexcept {
     try {
         ObjectList::Add(std::move(Item), Key, Before, After);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDQuestions.Add"); }

@@ -5,8 +5,8 @@
 
 namespace htdrdd {
 
-void clsHTDRDDSequence::Add(std::int32_t lItem, std::optional<TextView> Key,
-                            const std::optional<Index>& Before, const std::optional<Index>& After, Where at) {
+void clsHTDRDDSequence::Add(std::int32_t lItem, std::optional<TextView> Key, const Index& Before,
+                            const Index& After, Where at) {
     mItems.Add(lItem, Key, Before, After, at);
 }
 

@@ -4,8 +4,8 @@
 
 namespace htdrdd {
 
-void clsHTDRDDSubtests::Add(Ref<clsHTDRDDSubtest> Item, std::optional<TextView> Key,
-                            const std::optional<Index>& Before, const std::optional<Index>& After) noexcept {
+void clsHTDRDDSubtests::Add(Ref<clsHTDRDDSubtest> Item, std::optional<TextView> Key, const Index& Before,
+                            const Index& After) noexcept {
     try {
         ObjectList::Add(std::move(Item), Key, Before, After);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDSubtests.Add"); }

@@ -17,9 +17,10 @@
 namespace htdrdd {
 
 /// What names an entry of a list: a number is a position from 1, a text is a key. It refers to the text that
-/// it was made from.
+/// it was made from. `{}` names nothing.
 class Index {
 public:
+    Index() : isGiven_(false) {}
     Index(std::int32_t position) : position_(position) {}
     Index(TextView key) : key_(key) {}
     Index(const Text& key) : key_(TextView(key)) {}
@@ -29,10 +30,12 @@ public:
     [[nodiscard]] std::int32_t Position() const noexcept { return position_; }
     /// The key, where the index is one.
     [[nodiscard]] const std::optional<TextView>& Key() const noexcept { return key_; }
+    [[nodiscard]] bool IsGiven() const noexcept { return isGiven_; }
 
 private:
     std::int32_t position_ = 0;
     std::optional<TextView> key_;
+    bool isGiven_ = true;
 };
 
 namespace detail {
@@ -73,8 +76,8 @@ public:
 
     /// Adds at the end, or before or after an entry. Fails, and changes nothing, with 457 where the key is in
     /// use, with 5 where both places are given, and as Item does where the place isn't there.
-    void Add(T item, std::optional<TextView> key = {}, const std::optional<Index>& before = {},
-             const std::optional<Index>& after = {}, Where at = Where::current()) {
+    void Add(T item, std::optional<TextView> key = {}, const Index& before = {}, const Index& after = {},
+             Where at = Where::current()) {
         const std::size_t slot = Place(before, after, at);
         if (key && FindKey(*key)) throw Failure(Err::KeyInUse, at);
         Insert(slot, {std::move(item), key ? detail::EntryKey(*key) : detail::EntryKey()}, at);
@@ -173,10 +176,10 @@ private:
         throw Failure(index.Key() ? Err::Argument : Err::Subscript, at);
     }
 
-    std::size_t Place(const std::optional<Index>& before, const std::optional<Index>& after, Where at) const {
-        if (before && after) throw Failure(Err::Argument, at);
-        if (before) return Find(*before, at);
-        return after ? Find(*after, at) + 1 : entries_.size();
+    std::size_t Place(const Index& before, const Index& after, Where at) const {
+        if (before.IsGiven() && after.IsGiven()) throw Failure(Err::Argument, at);
+        if (before.IsGiven()) return Find(before, at);
+        return after.IsGiven() ? Find(after, at) + 1 : entries_.size();
     }
 
     void Insert(std::size_t slot, Entry entry, Where at) {

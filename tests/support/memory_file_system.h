@@ -1,0 +1,75 @@
+/// A file system in memory whose n-th operation fails.
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace htdrdd::test {
+
+class MemoryFileSystem final : public FileSystem {
+public:
+    std::map<Text, std::string> files;
+    std::set<Text> folders{u"/tmp"};
+    /// The operation that fails, counted from 1; 0: none. Looking whether something is there never fails.
+    int failingOperation = 0;
+    Err failure = Err::PermissionDenied;
+    /// How many operations there were.
+    int operations = 0;
+
+    bool FileExists(TextView path) override { return files.count(Text(path)) != 0; }
+    bool FolderExists(TextView path) override { return folders.count(Text(path)) != 0; }
+    Bytes Read(TextView path, std::size_t limit, Where at) override {
+        Count(at);
+        const std::string content = Find(path, at).substr(0, limit);
+        Bytes bytes(content.size());
+        content.copy(bytes.Data(), content.size());
+        return bytes;
+    }
+    std::unique_ptr<FileWriter> OpenForAppending(TextView path, Where at) override {
+        Count(at);
+        return std::make_unique<Writer>(*this, files[Text(path)]);
+    }
+    void CopyFile(TextView from, TextView to, Where at) override {
+        Count(at);
+        files[Text(to)] = Find(from, at);
+    }
+    void DeleteFile(TextView path, Where at) override {
+        Count(at);
+        Find(path, at);
+        files.erase(Text(path));
+    }
+    Text TemporaryFolder(Where at) override {
+        Count(at);
+        return u"/tmp";
+    }
+
+private:
+    class Writer final : public FileWriter {
+    public:
+        Writer(MemoryFileSystem& owner, std::string& content) : owner_(owner), content_(content) {}
+        void Write(std::string_view bytes, Where at) override {
+            owner_.Count(at);
+            content_ += bytes;
+        }
+        void Close(Where at) override { owner_.Count(at); }
+
+    private:
+        MemoryFileSystem& owner_;
+        std::string& content_;
+    };
+
+    void Count(Where at) {
+        if (++operations == failingOperation) throw Failure(failure, at);
+    }
+    std::string& Find(TextView path, Where at) {
+        const auto file = files.find(Text(path));
+        if (file == files.end()) throw Failure(Err::FileNotFound, at);
+        return file->second;
+    }
+};
+
+} // namespace htdrdd::test

@@ -1,0 +1,101 @@
+/// What a test works with: a host and a desktop that record, files in memory, and definitions as texts.
+#pragma once
+
+#include "foundation/ErrorHost.h"
+#include "model/clsHTDRDD.h"
+#include "platform/thread_state.h"
+#include "support/memory_file_system.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace htdrdd::test {
+
+using Said = std::vector<std::string>;
+
+/// Keeps what it was told, one line each: "13 Type mismatch @ clsHTDRDD.Read" for a failure, with the caption
+/// and the kind in front where there are any, and "Invalid File: text [152 &OK]" for a message. Lines of
+/// source are left out.
+class RecordingHost final : public ErrorHost {
+public:
+    Said said;
+    std::int32_t answer = 1;
+    std::int16_t RaiseError(const HostComplaint& complaint) override {
+        std::string line;
+        if (Silent()) line += "(silent) ";
+        if (!complaint.sTitle.empty()) line += ToUtf8(complaint.sTitle) + ": ";
+        if (complaint.lKind != 0) line += "kind " + std::to_string(complaint.lKind) + ", ";
+        if (!complaint.vError.IsMissing()) line += ToUtf8(complaint.vError.ToText()) + " ";
+        const std::string location = ToUtf8(complaint.sLocation);
+        said.push_back(line + ToUtf8(complaint.sDescription) + " @ " +
+                       location.substr(0, location.find("; Line")));
+        return 0;
+    }
+    std::int32_t MsgBoxEx(const HostMessage& message) override {
+        said.push_back(ToUtf8(message.caption) + ": " + ToUtf8(message.message) + " [" +
+                       std::to_string(message.flags) + " " + ToUtf8(message.firstButton) +
+                       ToUtf8(message.secondButton) + "]");
+        return answer;
+    }
+};
+
+class RecordingDesktop final : public Desktop {
+public:
+    Said said;
+    int pauses = 0;
+    void MousePointer(std::int32_t kind) override { pointer = kind; }
+    void MsgBox(TextView prompt, std::int32_t flags, TextView caption) override {
+        said.push_back(ToUtf8(caption) + " [" + std::to_string(flags) + "]: " + ToUtf8(prompt));
+    }
+    void Pause(std::int32_t /*milliseconds*/) override { ++pauses; }
+    std::int32_t pointer = -1;
+};
+
+/// UTF-16 little-endian with its byte order mark.
+inline std::string Unicode(TextView text) {
+    std::string bytes = "\xFF\xFE";
+    for (const char16_t unit : text) {
+        bytes += static_cast<char>(unit & 0xFF);
+        bytes += static_cast<char>(unit >> 8);
+    }
+    return bytes;
+}
+
+/// A thread's surroundings for one test; afterwards they are as before. Whatever a test doesn't look at in
+/// `host->said` and `desktop.said` must be silence: that is checked at the end.
+class Session : public ::testing::Test {
+protected:
+    Session() {
+        UseFileSystem(&files);
+        UseDesktop(&desktop);
+        ThisThread().errorHost = host;
+        ThisThread().region = Region();
+    }
+    ~Session() override {
+        EXPECT_EQ(host->said, Said());
+        EXPECT_EQ(desktop.said, Said());
+        ThisThread().errorHost = nullptr;
+        ThisThread().region = MachineRegion();
+        UseDesktop(nullptr);
+        UseFileSystem(nullptr);
+    }
+
+    /// What was said to the host since the last look.
+    Said Heard() { return std::exchange(host->said, {}); }
+
+    /// Reads a definition from its lines, as a Unicode file or as a single-byte one.
+    bool Read(TextView text) { return ReadBytes(Unicode(text)); }
+    bool ReadBytes(std::string bytes) {
+        files.files[u"/exam.rdd"] = std::move(bytes);
+        return rdd->Read(u"/exam.rdd");
+    }
+
+    MemoryFileSystem files;
+    RecordingDesktop desktop;
+    Ref<RecordingHost> host = Make<RecordingHost>();
+    Ref<clsHTDRDD> rdd = Make<clsHTDRDD>();
+};
+
+} // namespace htdrdd::test
