@@ -7,10 +7,17 @@
 namespace htdrdd::basTemplate {
 namespace {
 
-void ShowWrongLength() {
+/// Adds the positions of a list. False, with a stop message, where the sequence isn't one of all questions
+/// then.
+bool AddOrder(clsHTDRDDSequence& sequence, TextView order, std::int32_t lNumQuestions,
+              Where at = Where::current()) {
+    sequence.AddDelimitedString(order, u"\t", at);
+    if (sequence.Count() == lNumQuestions) return true;
     ShowInvalidFile(
         u"An error occurred reading the [Sequence] section of the configuration file. The number of "
-        u"questions in the sequence do not match the number of questions in the answer key file.");
+        u"questions in the sequence do not match the number of questions in the answer key file.",
+        at);
+    return false;
 }
 
 } // namespace
@@ -27,11 +34,7 @@ bool VB_RT_read_versions(SectionLines& lines, clsHTDRDDVersions& oVersions,
                 oVersions.Answers->AddDelimitedString(pair.value, u"\t");
             } else if (SameInUpperCase(pair.key, u"Sequence")) {
                 auto sequence = Make<clsHTDRDDSequence>();
-                sequence->AddDelimitedString(pair.value, u"\t");
-                if (sequence->Count() != lNumQuestions) {
-                    ShowWrongLength();
-                    return false;
-                }
+                if (!AddOrder(*sequence, pair.value, lNumQuestions)) return false;
                 oVersions.Sequences->Add(std::move(sequence));
             }
         }
@@ -50,11 +53,7 @@ bool VB_RT_read_sequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
             if (SameInUpperCase(pair.key, u"Answer")) {
                 oVersions.Answers->Add(pair.value);
             } else if (SameInUpperCase(pair.key, u"Order")) {
-                sequence->AddDelimitedString(pair.value, u"\t");
-                if (sequence->Count() != lNumQuestions) {
-                    ShowWrongLength();
-                    return false;
-                }
+                if (!AddOrder(*sequence, pair.value, lNumQuestions)) return false;
             }
         }
         oVersions.Sequences->Add(std::move(sequence));

@@ -88,7 +88,7 @@ std::int32_t clsHTDRDDStrings::Locate(TextView sItem, Compare eCompareMethod) co
 Text clsHTDRDDStrings::AsString(TextView sDelimiter) const noexcept {
     Text result;
     try {
-        for (std::int32_t l = 1; l <= Count(); ++l) result.append(Item(l)).append(sDelimiter);
+        for (const Text& item : mItems) result.append(item).append(sDelimiter);
         if (!result.empty()) result.resize(result.size() - sDelimiter.size());
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AsString"); }
     return result;
@@ -100,7 +100,7 @@ Array<Text> clsHTDRDDStrings::AsArray() const noexcept {
         if (Count() == 0) return result;
         std::vector<Text> items;
         items.reserve(static_cast<std::size_t>(Count()));
-        for (std::int32_t l = 1; l <= Count(); ++l) items.push_back(Item(l));
+        for (const Text& item : mItems) items.push_back(item);
         result = Array<Text>(std::move(items), 1);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AsArray"); }
     return result;

@@ -17,6 +17,9 @@ class clsHTDRDDStrings final : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDStrings"; }
 
+    /// The enumerator: the items in order. A change of the list ends it.
+    [[nodiscard]] auto begin() const noexcept { return mItems.begin(); }
+    [[nodiscard]] auto end() const noexcept { return mItems.end(); }
     [[nodiscard]] std::int32_t Count() const noexcept { return mItems.Count(); }
 
     /// Cuts the item to MaxLength and adds it at the end, under the key if there is one. True when added. A
@@ -35,7 +38,7 @@ public:
     bool Remove(const Index& Index) noexcept;
     bool RemoveAll() noexcept;
 
-    /// The item, or an empty text where there is none.
+    /// The item, or an empty text where there is none. It lasts until the list changes.
     [[nodiscard]] const Text& Item(const Index& Index) const noexcept;
     /// Replaces an item, cut to MaxLength. It stays in its place and loses its key. Where there is no such
     /// item, nothing happens.

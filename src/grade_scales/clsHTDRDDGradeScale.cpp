@@ -32,10 +32,7 @@ Array<Text> clsHTDRDDGradeScale::AsArray(bool bAsStartValues, std::int32_t lLowe
     if (Count() == 0) return {};
     std::vector<Text> texts;
     texts.reserve(static_cast<std::size_t>(Count()));
-    for (std::int32_t l = 1; l <= Count(); ++l) {
-        const auto& item = *mItems.Item(l);
-        texts.push_back(bAsStartValues ? item.StartValue : item.Grade);
-    }
+    for (const auto& item : mItems) texts.push_back(bAsStartValues ? item->StartValue : item->Grade);
     return Array<Text>(std::move(texts), lLowerBound);
 }
 

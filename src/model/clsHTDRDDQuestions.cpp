@@ -14,8 +14,8 @@ std::int32_t clsHTDRDDQuestions::Number(TextView sLocation, Wanted wanted) const
     std::int32_t result = 0;
     try {
         std::int32_t number = 0;
-        for (std::int32_t l = 1; l <= Count(); ++l)
-            if (wanted(*mItems.Item(l))) ++number;
+        for (const auto& question : mItems)
+            if (wanted(*question)) ++number;
         result = number;
     } catch (...) { ReportFailure(sLocation); }
     return result;

@@ -27,13 +27,13 @@ Array<std::int32_t> clsHTDRDDSequence::AsArray(std::int32_t lLowerBound) const {
     if (Count() == 0) return {};
     std::vector<std::int32_t> items;
     items.reserve(static_cast<std::size_t>(Count()));
-    for (std::int32_t l = 1; l <= Count(); ++l) items.push_back(Item(l));
+    for (const std::int32_t item : mItems) items.push_back(item);
     return Array<std::int32_t>(std::move(items), lLowerBound);
 }
 
 Text clsHTDRDDSequence::AsString(TextView sDelimiter) const {
     Text text;
-    for (std::int32_t l = 1; l <= Count(); ++l) text.append(DecimalText(Item(l))).append(sDelimiter);
+    for (const std::int32_t item : mItems) text.append(DecimalText(item)).append(sDelimiter);
     if (!text.empty()) text.resize(text.size() - sDelimiter.size());
     return text;
 }

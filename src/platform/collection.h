@@ -5,6 +5,7 @@
 #include "platform/object.h"
 #include "platform/text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -71,6 +72,11 @@ private:
 /// text is a key like any other.
 template <class T>
 class Collection {
+    struct Entry {
+        T item;
+        detail::EntryKey key;
+    };
+
 public:
     [[nodiscard]] std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
 
@@ -129,14 +135,31 @@ public:
     }
     [[nodiscard]] bool Exists(const Index& index) const noexcept { return TryItem(index) != nullptr; }
 
+    /// The items in order, for range-based loops. A change of the collection ends what an iterator refers to.
+    class Iterator {
+    public:
+        const T& operator*() const noexcept { return place_->item; }
+        Iterator& operator++() noexcept {
+            ++place_;
+            return *this;
+        }
+        friend bool operator==(const Iterator&, const Iterator&) = default;
+
+    private:
+        friend class Collection;
+        explicit Iterator(typename std::vector<Entry>::const_iterator place) : place_(place) {}
+        typename std::vector<Entry>::const_iterator place_;
+    };
+    [[nodiscard]] Iterator begin() const noexcept { return Iterator(entries_.begin()); }
+    [[nodiscard]] Iterator end() const noexcept { return Iterator(entries_.end()); }
+
     /// Makes room for more entries.
-    void Reserve(std::size_t more) { entries_.reserve(entries_.size() + more); }
+    void Reserve(std::size_t more) {
+        const std::size_t wanted = entries_.size() + more;
+        if (wanted > entries_.capacity()) entries_.reserve(std::max(wanted, 2 * entries_.capacity()));
+    }
 
 private:
-    struct Entry {
-        T item;
-        detail::EntryKey key;
-    };
     /// Shorter lists are searched from the front.
     static constexpr std::size_t kIndexedFrom = 16;
 

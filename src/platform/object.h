@@ -86,10 +86,18 @@ template <class T, class... Arguments>
     return Ref<T>(new T(std::forward<Arguments>(arguments)...));
 }
 
-/// A reference whose object is made on first access: it never reads as empty.
+/// A reference whose object is made on first access: it never reads as empty. It can't be copied, for a copy
+/// would make an object of its own: `Ref<T> r = lazy;` refers to the same one.
 template <class T>
 class LazyRef {
 public:
+    LazyRef() = default;
+    LazyRef(const LazyRef&) = delete;
+    LazyRef& operator=(const LazyRef& other) {
+        object_ = other.Made();
+        return *this;
+    }
+    ~LazyRef() = default;
     LazyRef& operator=(Ref<T> object) noexcept {
         object_ = std::move(object);
         return *this;

@@ -35,6 +35,8 @@ public:
 
     /// Gives every member its initial value.
     void Reset();
+    /// The same; outside hosts know it by this name, too.
+    void Class_Initialize() { Reset(); }
     /// Takes every member over through its property.
     void Assign(const clsHTDRDDScaledScoreDB& source);
 };
