@@ -9,12 +9,27 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace htdrdd::fuzz {
 namespace {
 
 constexpr TextView kFile = u"/fuzz.rdd";
+constexpr TextView kFormerFile = u"/former.rdd";
 constexpr std::int32_t kFew = 4; ///< how many are made of what costs nothing before it is asked for
+
+/// A definition with something everywhere. Its scales have no names, since those outlive it.
+constexpr std::string_view kFormer =
+    "[Report]\nTemplateName=T\nNumQuestions=2\nNumVersions=2\nNumSubtests=1\nNumPages=2\nType=1\n"
+    "Description=D\nNotes=N\nCustomHeader=1\n\n"
+    "[Subtest]\nSubtestName=Overall\nBenchmark=70\n\n"
+    "[Scale]\nNumValues=1\nGrades=A\nStartValues=0\n\n"
+    "[SubtestScale]\nNumValues=1\nGrades=B\nStartValues=0\n\n"
+    "[ScaledScore]\nScaledScoreName=S\nScaledScoreValues=1\nScaledScoreDBTable=T\nScaledScorePrecision=1\n\n"
+    "[SubtestScaledScore]\nScaledScoreName=S\nScaledScoreDBDSNBased=1\n\n"
+    "[Header]\n_HEADER_COLS=1\nOWN=1\n\n"
+    "[Versions]\nQuestion=1\nAnswers=A\tB\nSequence=1\t2\nSequence=2\t1\n\n"
+    "[Question]\nQuestionName=Q1\nSubtestNumber=1,2\n[Question]\nQuestionName=Q2\n\n";
 
 bool IsGeneric(TextView type) {
     try {
@@ -183,15 +198,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Host();
     test::MemoryFileSystem files;
     files.files[Text(kFile)] = std::string(data, data + size);
+    files.files[Text(kFormerFile)] = kFormer;
     UseFileSystem(&files);
     if (!MayNeverEnd(files)) {
         const auto rdd = Make<clsHTDRDD>();
         const bool read = rdd->Read(kFile);
         Demand(read || rdd->FileName.empty());
         if (read) CheckDefinition(*rdd);
-        const Walk first(*rdd);
-        Demand(rdd->Read(kFile) == read);
-        Demand(Walk(*rdd).Told() == first.Told());
+
+        const auto used = Make<clsHTDRDD>();
+        Demand(used->Read(kFormerFile));
+        Demand(used->Read(kFile) == read);
+        Demand(used->FileName == (read ? kFile : kFormerFile));
+        Demand(Walk(*used).Told() == Walk(*rdd).Told());
     }
     UseFileSystem(nullptr);
     return 0;

@@ -69,7 +69,8 @@ void CheckNumber(double value, std::int32_t places) {
     Demand(back.has_value() || std::fabs(value) > 1.797693134862315e308);
     if (back) Demand(InvariantText(*back) == text);
     Demand(Number([&] { return RegionalNumber(RegionalText(value)); }, false) == back);
-    Demand(FixedText(value, places) == FixedDigits(value, places));
+    for (const std::int32_t some : {0, 1, 3, places})
+        Demand(FixedText(value, some) == FixedDigits(value, some));
 }
 
 void CheckNumberText(TextView text, std::int32_t places) {

@@ -69,24 +69,24 @@ constexpr std::array kSections{
 };
 
 /// False where a section reader failed or the first line is no section line.
-bool ReadSections(Reading& r) {
+bool ReadSections(Reading& r, Where at = Where::current()) {
     while (!r.lines.AtEnd()) {
-        if (!r.lines.HoldsSectionLine()) r.lines.Next();
+        if (!r.lines.HoldsSectionLine()) r.lines.Next(at);
         const auto* const section = std::find_if(kSections.begin(), kSections.end(),
                                                  [&](const Section& s) { return r.lines.Begins(s.line); });
         if (section != kSections.end())
             r.sectionRead = section->read(r);
         else if (!r.lines.AtEnd())
-            r.lines.Next();
+            r.lines.Next(at);
         if (!r.sectionRead) return false;
     }
     return true;
 }
 
 /// Whether what was found is what the file announced; complains of the first count that isn't.
-bool CountsMatch(const Reading& r) {
-    const auto fails = [](TextView what) {
-        ShowInvalidFile(Text(u"An error occurred reading the configuration file. ").append(what));
+bool CountsMatch(const Reading& r, Where at = Where::current()) {
+    const auto fails = [at](TextView what) {
+        ShowInvalidFile(Text(u"An error occurred reading the configuration file. ").append(what), at);
         return false;
     };
     const std::int32_t answers = r.rdd.Versions->Answers->Count();
@@ -124,9 +124,9 @@ bool VB_RT_read_template(TextView sFile, clsHTDRDD& oRDD) noexcept {
 
 bool clsHTDRDD::Read(TextView sRDDFile) {
     const Ref<clsHTDRDD> self(this); // a handler may release the object
-    const Text file(sRDDFile);
+    Text file(sRDDFile);
     const bool result = basTemplate::VB_RT_read_template(file, *this);
-    if (result) FileName = file;
+    if (result) FileName = std::move(file);
     AfterRead.Raise();
     return result;
 }

@@ -2,28 +2,35 @@
 
 #include "definition_file/section_rows.h"
 #include "foundation/basError.h"
+#include "platform/number.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+#include <vector>
 
 namespace htdrdd::basTemplate {
 namespace {
 
+/// One entry of the membership list.
+struct Membership {
+    std::int32_t position;
+    std::optional<double> weight;
+};
+
 struct Section {
     clsHTDRDDQuestion& question;
-    std::int32_t lNumSubtests;
-    bool pointsSeen = false; ///< the section holds a SubjectivePoints key
+    std::int32_t lNumSubtests = 0;
+    bool pointsSeen = false;                  ///< the section holds a SubjectivePoints key
+    std::vector<Membership> memberships = {}; ///< as they come; entered at the section's end
 };
-using Row = SectionRow<Section>;
+using Row = MemberRow<Section>;
 
 template <auto Field>
 constexpr Row Own(TextView key) {
     return {key, [](Section& section, TextView value, Where at) {
                 ReadValue(value, section.question.*Field, at);
             }};
-}
-
-void ReadDataType(Section& section, TextView value, Where at) {
-    std::int16_t type = 0;
-    ReadValue(value, type, at);
-    section.question.DataType = static_cast<HTDReportDataType>(type);
 }
 
 /// Older files hold the boolean -1 here, which stands for HTDMultiplesPermittedAll.
@@ -45,17 +52,31 @@ void ReadMembership(Section& section, TextView entry, Where at) {
     std::int16_t position = 0;
     ReadValue(entry.substr(0, comma), position, at);
     if (position < 1 || position > section.lNumSubtests) return;
-    auto& memberships = *section.question.Subtests;
-    memberships.SetInclude(position, true, at);
-    if (comma == TextView::npos) return;
-    const TextView weight = entry.substr(comma + 1);
-    memberships.SetWeight(position, LeadingNumber(weight.substr(0, weight.find(u',')), at), at);
+    std::optional<double> weight;
+    if (comma != TextView::npos) {
+        const TextView rest = entry.substr(comma + 1);
+        weight = LeadingNumber(rest.substr(0, rest.find(u',')), at);
+    }
+    section.memberships.push_back({position, weight});
 }
 
 void ReadMemberships(Section& section, TextView value, Where at) {
     EachPiece(value, u"\t", [&](TextView entry) { ReadMembership(section, entry, at); });
+    // The overall one, whatever the list says.
+    if (section.question.Subtests->Exists(1)) section.memberships.push_back({1, {}});
+}
+
+/// Enters the memberships in the order of their positions, so that a list in any order costs no more.
+void EnterMemberships(Section& section, Where at = Where::current()) {
+    auto& entries = section.memberships;
+    const auto before = [](const Membership& a, const Membership& b) { return a.position < b.position; };
+    if (!std::is_sorted(entries.begin(), entries.end(), before))
+        std::stable_sort(entries.begin(), entries.end(), before);
     auto& memberships = *section.question.Subtests;
-    if (memberships.Exists(1)) memberships.SetInclude(1, true, at); // the overall one, whatever the list says
+    for (const auto& [position, weight] : entries) {
+        memberships.SetInclude(position, true, at);
+        if (weight) memberships.SetWeight(position, *weight, at);
+    }
 }
 
 /// In the order of writing.
@@ -64,7 +85,8 @@ constexpr std::array kRows{
     Own<&clsHTDRDDQuestion::QuestionText>(u"QuestionText"),
     Own<&clsHTDRDDQuestion::AnswerValues>(u"AnswerValues"),
     Own<&clsHTDRDDQuestion::AnswerCodes>(u"AnswerCodes"),
-    Row{u"DataType", ReadDataType},
+    Row{u"DataType", [](Section& s, TextView value,
+                        Where at) { ReadValueAs<std::int16_t>(value, s.question.DataType, at); }},
     Own<&clsHTDRDDQuestion::MissingText>(u"MissingText"),
     Own<&clsHTDRDDQuestion::MissingValue>(u"MissingValue"),
     Own<&clsHTDRDDQuestion::BlankText>(u"BlankText"),
@@ -102,12 +124,12 @@ constexpr std::array kRows{
 static_assert(kRows.size() == 38);
 
 /// What keeps older files working.
-void Repair(const Section& section) {
+void Repair(const Section& section, Where at = Where::current()) {
     clsHTDRDDQuestion& question = section.question;
     if (question.PartialCredit && question.CorrectAnswerPoints->Item(1).empty())
         question.PartialCredit = false;
     if (question.SubjectiveField && !section.pointsSeen && question.CorrectAnswers->Count() >= 1) {
-        const double points = LeadingNumber(question.CorrectAnswers->Item(1));
+        const double points = LeadingNumber(question.CorrectAnswers->Item(1), at);
         if (points > 0) question.SubjectivePoints = points;
     }
 }
@@ -118,10 +140,12 @@ bool VB_RT_read_question(SectionLines& lines, std::int32_t lNumSubtests,
                          clsHTDRDDQuestions& oQuestions) noexcept {
     bool result = false;
     try {
+        const Ref<clsHTDRDDQuestions> held(&oQuestions); // a report may make the host replace it
         auto question = Make<clsHTDRDDQuestion>();
         question->Subtests->AddMany(lNumSubtests);
         Section section{*question, lNumSubtests};
         ReadRows(lines, kRows, section);
+        EnterMemberships(section);
         Repair(section);
         oQuestions.Add(std::move(question));
         result = true;

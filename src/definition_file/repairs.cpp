@@ -9,13 +9,17 @@ void RepairDefinition(clsHTDRDD& oRDD) {
     const auto hasRows = [](const clsHTDRDDGradeScale& scale) { return scale.Count() > 0; };
     if (!hasRows(*oRDD.SubtestGradeScale) && hasRows(*oRDD.GradeScale))
         oRDD.SubtestGradeScale = oRDD.GradeScale->Copy();
-    const auto giveScale = [&](std::int32_t position, const clsHTDRDDGradeScale& scale) {
+    // Each learning objective gets a copy of its own, but not before somebody looks at it: many objectives
+    // and a long scale would take memory out of all proportion to the file.
+    const auto giveScale = [&](std::int32_t position, const Ref<const clsHTDRDDGradeScale>& original) {
         const auto subtest = oRDD.Subtests->Item(position);
-        if (!hasRows(*subtest->GradeScale)) subtest->GradeScale = scale.Copy();
+        if (!hasRows(*subtest->GradeScale)) subtest->GradeScale.MakeCopyOf(original);
     };
-    if (oRDD.Subtests->Count() >= 1 && hasRows(*oRDD.GradeScale)) giveScale(1, *oRDD.GradeScale);
-    if (hasRows(*oRDD.SubtestGradeScale))
-        for (std::int32_t l = 2; l <= oRDD.Subtests->Count(); ++l) giveScale(l, *oRDD.SubtestGradeScale);
+    if (oRDD.Subtests->Count() >= 1 && hasRows(*oRDD.GradeScale)) giveScale(1, oRDD.GradeScale->Copy());
+    if (hasRows(*oRDD.SubtestGradeScale)) {
+        const Ref<const clsHTDRDDGradeScale> original = oRDD.SubtestGradeScale->Copy();
+        for (std::int32_t l = 2; l <= oRDD.Subtests->Count(); ++l) giveScale(l, original);
+    }
 }
 
 } // namespace htdrdd::basTemplate

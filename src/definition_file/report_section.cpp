@@ -13,7 +13,7 @@ struct Report {
     std::int32_t& lNumVersions;
     std::int32_t& lNumSubtests;
 };
-using Row = SectionRow<Report>;
+using Row = MemberRow<Report>;
 
 template <auto Field>
 constexpr Row Own(TextView key) {
@@ -21,13 +21,6 @@ constexpr Row Own(TextView key) {
 }
 
 void IgnoreValue(Report& /*report*/, TextView /*value*/, Where /*at*/) {}
-
-/// The document holds any 32-bit value, a file only a 16-bit one.
-void ReadType(Report& report, TextView value, Where at) {
-    std::int16_t type = 0;
-    ReadValue(value, type, at);
-    report.rdd.ReportType = static_cast<HTDReportType>(type);
-}
 
 /// Older files name all learning objectives here.
 void ReadSubtestNames(Report& report, TextView value, Where /*at*/) {
@@ -48,7 +41,9 @@ constexpr std::array kRows{
     Row{u"NumSubtests", [](Report& r, TextView value, Where at) { ReadValue(value, r.lNumSubtests, at); }},
     Own<&clsHTDRDD::NumPages>(u"NumPages"),
     Row{u"Version", IgnoreValue},
-    Row{u"Type", ReadType},
+    // The document holds any 32-bit value, a file only a 16-bit one.
+    Row{u"Type",
+        [](Report& r, TextView value, Where at) { ReadValueAs<std::int16_t>(value, r.rdd.ReportType, at); }},
     Own<&clsHTDRDD::Description>(u"Description"),
     Own<&clsHTDRDD::Notes>(u"Notes"),
     Own<&clsHTDRDD::CustomHeader>(u"CustomHeader"),

@@ -1,37 +1,41 @@
 #include "definition_file/scale_section.h"
 
 #include "definition_file/messages.h"
-#include "definition_file/section_rows.h"
 #include "foundation/basError.h"
+#include "foundation/value_forms.h"
 
 namespace htdrdd::basTemplate {
 
 bool ScaleKeys::Take(const SectionLines::Pair& pair, Where at) {
     if (SameInUpperCase(pair.key, u"ScaleName"))
-        scale.ScaleName = pair.value;
+        scale_->ScaleName = pair.value;
     else if (SameInUpperCase(pair.key, u"NumValues"))
-        ReadValue(pair.value, NumValues, at);
+        ReadValue(pair.value, numValues_, at);
     else if (SameInUpperCase(pair.key, u"Grades"))
-        Grades = Split(pair.value, u"\t");
+        grades_ = Split(pair.value, u"\t");
     else if (SameInUpperCase(pair.key, u"StartValues"))
-        StartValues = Split(pair.value, u"\t");
+        startValues_ = Split(pair.value, u"\t");
     else
         return false;
     return true;
 }
 
+bool ScaleKeys::AddRows() {
+    return scale_->AddArrays(grades_, startValues_) && scale_->Count() == numValues_;
+}
+
 bool VB_RT_read_scale(SectionLines& lines, clsHTDRDDGradeScale& oScale) noexcept {
     bool result = false;
     try {
-        ScaleKeys keys{oScale};
+        ScaleKeys keys{Ref(&oScale)};
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) keys.Take(pair);
-        if (!oScale.AddArrays(keys.Grades, keys.StartValues) || oScale.Count() != keys.NumValues) {
+        if (!keys.AddRows()) {
             ShowInvalidFile(u"An error occurred reading the [Scale] section of the configuration file. The "
                             u"number of scale items and values found did not match the NumValues Parameter.");
             return false;
         }
-        if (keys.NumValues == 0) {
+        if (keys.NumValues() == 0) {
             ShowInvalidFile(u"An error occurred reading the [Scale] section of the configuration file. The "
                             u"NumValues parameter was zero.");
             return false;

@@ -5,8 +5,8 @@
 namespace htdrdd::basTemplate {
 
 bool ScaledScoreKeys::Take(const SectionLines::Pair& pair, Where at) {
-    if (const ScaledScoreMember* member = finder_.Find(pair.key))
-        member->put(score_, pair.value, at);
+    if (const ScaledScoreRow* row = finder_.Find(pair.key))
+        row->put(*score_, pair.value, at);
     else if (SameInUpperCase(pair.key, kScaledScoreUnicodeKey))
         ReadValue(pair.value, unicode_, at);
     else
@@ -14,12 +14,10 @@ bool ScaledScoreKeys::Take(const SectionLines::Pair& pair, Where at) {
     return true;
 }
 
-void ScaledScoreKeys::Decipher() const { DecipherConnection(*score_.DB, unicode_); }
-
 bool VB_RT_read_scaled_score(SectionLines& lines, clsHTDRDDScaledScore& oScaledScore) noexcept {
     bool result = false;
     try {
-        ScaledScoreKeys keys(oScaledScore);
+        ScaledScoreKeys keys{Ref(&oScaledScore)};
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) keys.Take(pair);
         keys.Decipher();

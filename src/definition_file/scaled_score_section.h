@@ -2,23 +2,24 @@
 /// [Subtest].
 #pragma once
 
-#include "definition_file/section_rows.h"
+#include "definition_file/section_lines.h"
 #include "scaled_scores/scaled_score_members.h"
 
 namespace htdrdd::basTemplate {
 
-/// The keys of a scaled score, which go to the record at once.
+/// The keys of a scaled score, which go to the record at once. The record is held: a report may make the host
+/// replace it.
 class ScaledScoreKeys {
 public:
-    explicit ScaledScoreKeys(clsHTDRDDScaledScore& score) : score_(score) {}
+    explicit ScaledScoreKeys(Ref<clsHTDRDDScaledScore> score) : score_(std::move(score)) {}
     /// False for a key of something else.
     bool Take(const SectionLines::Pair& pair, Where at = Where::current());
     /// Deciphers what stood enciphered in the section; to be called at its end.
-    void Decipher() const;
+    void Decipher() const { DecipherConnection(*score_, unicode_); }
 
 private:
-    clsHTDRDDScaledScore& score_;
-    RowFinder<ScaledScoreMember, kScaledScoreMembers.size()> finder_{kScaledScoreMembers};
+    Ref<clsHTDRDDScaledScore> score_;
+    RowFinder<clsHTDRDDScaledScore, kScaledScoreMembers.size()> finder_{kScaledScoreMembers};
     bool unicode_ = false;
 };
 

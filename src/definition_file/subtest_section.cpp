@@ -4,17 +4,16 @@
 #include "definition_file/scale_section.h"
 #include "definition_file/scaled_score_section.h"
 #include "foundation/basError.h"
+#include "foundation/member_rows.h"
 
 namespace htdrdd::basTemplate {
 namespace {
 
-using Row = SectionRow<clsHTDRDDSubtest>;
+using Row = MemberRow<clsHTDRDDSubtest>;
 
 template <auto Field>
 constexpr Row Own(TextView key) {
-    return {key, [](clsHTDRDDSubtest& subtest, TextView value, Where at) {
-                ReadValue(value, subtest.*Field, at);
-            }};
+    return PlainRow<clsHTDRDDSubtest, Field>(key);
 }
 
 /// In the order of writing; the keys of the grade scale and of the scaled score follow.
@@ -29,10 +28,11 @@ constexpr std::array kRows{
 bool VB_RT_read_subtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexcept {
     bool result = false;
     try {
+        const Ref<clsHTDRDDSubtests> held(&oSubtests); // a report may make the host replace it
         auto subtest = Make<clsHTDRDDSubtest>();
         RowFinder finder(kRows);
-        ScaleKeys scale{*subtest->GradeScale};
-        ScaledScoreKeys score(*subtest->ScaledScore);
+        ScaleKeys scale(subtest->GradeScale);
+        ScaledScoreKeys score(subtest->ScaledScore);
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) {
             if (const Row* row = finder.Find(pair.key))
@@ -40,8 +40,7 @@ bool VB_RT_read_subtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexc
             else if (!scale.Take(pair))
                 score.Take(pair);
         }
-        if (scale.NumValues > 0 && (!scale.scale.AddArrays(scale.Grades, scale.StartValues) ||
-                                    scale.scale.Count() != scale.NumValues)) {
+        if (scale.NumValues() > 0 && !scale.AddRows()) {
             ShowInvalidFile(u"An error occurred reading the [Subtest] section of the configuration file. The "
                             u"number of scale items and values found did not match the NumValues Parameter.");
             return false;

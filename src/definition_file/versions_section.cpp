@@ -1,8 +1,8 @@
 #include "definition_file/versions_section.h"
 
 #include "definition_file/messages.h"
-#include "definition_file/section_rows.h"
 #include "foundation/basError.h"
+#include "foundation/value_forms.h"
 
 namespace htdrdd::basTemplate {
 namespace {
@@ -26,6 +26,7 @@ bool VB_RT_read_versions(SectionLines& lines, clsHTDRDDVersions& oVersions,
                          std::int32_t lNumQuestions) noexcept {
     bool result = false;
     try {
+        const Ref<clsHTDRDDVersions> held(&oVersions); // a report may make the host replace it
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) {
             if (SameInUpperCase(pair.key, u"Question")) {
@@ -47,6 +48,7 @@ bool VB_RT_read_sequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
                          std::int32_t lNumQuestions) noexcept {
     bool result = false;
     try {
+        const Ref<clsHTDRDDVersions> held(&oVersions); // a report may make the host replace it
         auto sequence = Make<clsHTDRDDSequence>();
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) {

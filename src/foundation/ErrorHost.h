@@ -25,8 +25,9 @@ struct HostMessage {
     Text secondButton; ///< empty where there is only one
 };
 
-/// Base class of C++ hosts: derive, and register the object with clsHTDRDD::SetError. Whatever a member
-/// throws counts as a failed call of it.
+/// Base class of C++ hosts: derive, make the object with Make, and register it with clsHTDRDD::SetError. It
+/// lives as long as it is registered or referred to, and it serves one thread. Whatever a member throws
+/// counts as a failed call of it.
 class ErrorHost : public LateBound {
 public:
     /// Whether complaints are to be kept from the user. The library sets it around a call of RaiseError and

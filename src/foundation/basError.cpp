@@ -29,9 +29,10 @@ std::int16_t HandToHost(const Ref<LateBound>& host, const ErrorReport& report, c
                                       report.sTitle, report.sExtra1, report.sExtra2,      report.sExtra3,
                                       report.lMode,  report.sExtra4, report.sExtra5,      report.sExtra6,
                                       report.bFlag};
-    const std::int16_t result = host->Call(u"RaiseError", arguments).ToInteger16();
+    const Variant result = host->Call(u"RaiseError", arguments);
+    const std::int16_t number = result.IsMissing() ? std::int16_t{0} : result.ToInteger16();
     host->Put(u"Silent", silent);
-    return result;
+    return number;
 }
 
 void AppendToLog(const ErrorReport& report, TextView sLocation) {
@@ -44,10 +45,13 @@ void AppendToLog(const ErrorReport& report, TextView sLocation) {
 
 std::int16_t basError::ReportError(const ErrorReport& report) noexcept {
     Text sLocation;
+    TextView told = report.sLocation; // what a box shows: the location as far as it has come
     try {
         CurrentDesktop().MousePointer(0);
         sLocation = Replaced(report.sLocation, Text(kLibraryName) + u" - ", u"");
+        told = sLocation;
         if (report.lLine > 0) sLocation.append(u"; Line: ").append(DecimalText(report.lLine));
+        told = sLocation;
         if (const Ref<LateBound> host = ThisThread().errorHost) return HandToHost(host, report, sLocation);
         AppendToLog(report, sLocation);
     } catch (...) {
@@ -55,7 +59,7 @@ std::int16_t basError::ReportError(const ErrorReport& report) noexcept {
         IgnoreFailure([&] {
             Text prompt = u"Application error: (#";
             prompt.append(DecimalText(failure.Number())).append(u") ").append(ErrorText(failure.Number()));
-            prompt.append(u" occurred while trying to display:\r\n\r\n").append(Told(report, sLocation));
+            prompt.append(u" occurred while trying to display:\r\n\r\n").append(Told(report, told));
             CurrentDesktop().MsgBox(prompt, kBoxFlags, kBoxCaption);
         });
     }

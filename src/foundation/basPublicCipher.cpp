@@ -3,7 +3,6 @@
 #include "foundation/basError.h"
 #include "foundation/basPublicText.h"
 #include "platform/block_cipher.h"
-#include "platform/number.h"
 
 #include <algorithm>
 #include <array>
@@ -103,10 +102,9 @@ Text HexToUnicode(TextView sHex) noexcept {
         if (sHex.size() < 2) return result;
         std::string bytes = BytesOf(sHex, false);
         if (sHex.size() % 2 != 0) {
-            // Half the length, rounded to the even number, is how many bytes there is room for: a last single
-            // digit has a place behind 1 or 3 whole bytes and none behind 2 or 4.
-            if (bytes.size() == Rounded<std::size_t>(static_cast<double>(sHex.size()) / 2))
-                throw Failure(Err::Subscript);
+            // There is room for half the length in bytes, rounded to the even number: a last single digit has
+            // a place behind 1 or 3 whole bytes and none behind 2 or 4.
+            if (bytes.size() % 2 == 0) throw Failure(Err::Subscript);
             const int digit = HexDigit(sHex.back(), false);
             if (digit < 0) throw Failure(Err::TypeMismatch);
             bytes += static_cast<char>(digit);

@@ -28,10 +28,12 @@ Text RemoveTrailingDelimiter(TextView sText, TextView sDelimiter) noexcept {
 }
 
 std::int32_t NumStringItems(TextView sText, TextView sDelimiter) noexcept {
+    if (sDelimiter.empty()) return sText.empty() ? 0 : 1;
     std::int32_t result = 0;
-    EachPiece(sText, sDelimiter, [&](TextView) { ++result; });
-    const bool trailing = !sDelimiter.empty() && sText.ends_with(sDelimiter);
-    return trailing ? result - 1 : result;
+    std::size_t from = 0;
+    for (std::size_t at = 0; (at = sText.find(sDelimiter, from)) != TextView::npos; ++result)
+        from = at + sDelimiter.size();
+    return from < sText.size() ? result + 1 : result;
 }
 
 double TextToDouble(TextView sValue) noexcept {

@@ -42,6 +42,11 @@ bool clsHTDRDDStrings::AddDelimitedString(TextView Items, TextView sDelimiter) n
     bool result = false;
     try {
         if (Items.empty()) return false;
+        Text held; // the text may be an item of this list
+        if (Count() > 0) {
+            held = Items;
+            Items = held;
+        }
         std::size_t pieces = 0;
         EachPiece(Items, sDelimiter, [&](TextView) { ++pieces; });
         mItems.Reserve(pieces);

@@ -5,6 +5,7 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace htdrdd {
@@ -12,9 +13,11 @@ namespace htdrdd {
 /// A text as a template argument.
 template <std::size_t N>
 struct Literal {
-    constexpr Literal(const char16_t (&text)[N]) { std::copy_n(text, N, units); } // NOLINT: as it is written
-    [[nodiscard]] constexpr TextView View() const { return {units, N - 1}; }
-    char16_t units[N]{};
+    constexpr Literal(const char16_t (&text)[N]) {
+        std::copy_n(text, N, units.begin());
+    } // NOLINT: as it is written
+    [[nodiscard]] constexpr TextView View() const { return {units.data(), N - 1}; }
+    std::array<char16_t, N> units{};
 };
 
 class StoredText {

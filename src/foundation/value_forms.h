@@ -32,6 +32,13 @@ requires std::is_enum_v<Enum>
 void ReadValue(TextView value, Enum& member, Where at) {
     member = static_cast<Enum>(Rounded<std::underlying_type_t<Enum>>(LeadingNumber(value, at), at));
 }
+/// An enumeration of which files hold a narrower integer than the member is.
+template <class Int, class Enum>
+void ReadValueAs(TextView value, Enum& member, Where at) {
+    Int number = 0;
+    ReadValue(value, number, at);
+    member = static_cast<Enum>(number);
+}
 inline void ReadValue(TextView value, const Ref<clsHTDRDDStrings>& member, Where /*at*/) {
     member->AddDelimitedString(value, u"\t");
 }

@@ -42,7 +42,7 @@ Text clsHTDRDDGradeScale::AsString(bool bAsStartValues, TextView sDelimiter) con
 
 Ref<clsHTDRDDGradeScale> clsHTDRDDGradeScale::Copy() const {
     auto copy = Make<clsHTDRDDGradeScale>();
-    copy->AddArrays(AsArray(false), AsArray(true));
+    copy->AddArrays(AsArray(false), AsArray(true)); // without rows there is nothing to add, in silence
     copy->ScaleName = ScaleName;
     return copy;
 }

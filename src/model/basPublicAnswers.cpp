@@ -61,20 +61,20 @@ Text CorrectAnswerToCode(const clsHTDRDDQuestion& oQuestion, std::int32_t lKey) 
 void AssignCorrectAnswer(clsHTDRDDQuestion& oQuestion, TextView sAnswer, std::int32_t lKey,
                          TextView sPoints) noexcept {
     try {
+        Text answer(sAnswer); // either may be an item of the lists that grow
+        const Text points(sPoints);
         Lengthen(*oQuestion.CorrectAnswers, lKey);
         Lengthen(*oQuestion.CorrectCodes, lKey);
         Lengthen(*oQuestion.CorrectAnswerPoints, lKey);
-        Text points;
         if (oQuestion.SubjectiveField) {
-            oQuestion.SubjectivePoints = TextToDouble(sAnswer);
-            points = InvariantText(oQuestion.SubjectivePoints);
-            sAnswer = points;
+            oQuestion.SubjectivePoints = TextToDouble(answer);
+            answer = InvariantText(oQuestion.SubjectivePoints);
         }
-        oQuestion.CorrectAnswers->Item(lKey, sAnswer);
-        oQuestion.CorrectAnswerPoints->Item(lKey, sPoints);
+        oQuestion.CorrectAnswers->Item(lKey, answer);
+        oQuestion.CorrectAnswerPoints->Item(lKey, points);
         oQuestion.CorrectCodes->Item(lKey, CorrectAnswerToCode(oQuestion, lKey));
         if (lKey >= 2) return;
-        oQuestion.NumCorrect = NumStringItems(sAnswer, u",");
+        oQuestion.NumCorrect = NumStringItems(answer, u",");
         if (oQuestion.CorrectAnd && oQuestion.NumCorrect >= 2)
             oQuestion.MultiplesPermitted = HTDMultiplesPermittedAll;
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.AssignCorrectAnswer"); }

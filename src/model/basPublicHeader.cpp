@@ -30,10 +30,10 @@ static_assert(kSettings.size() == 31);
 
 } // namespace
 
-void InitializeHeader(Dictionary& oHeader) noexcept {
+void InitializeHeader(const Ref<Dictionary>& oHeader) noexcept {
     try {
-        oHeader.RemoveAll();
-        for (const Setting& setting : kSettings) oHeader.SetItem(setting.key, setting.value);
+        oHeader->RemoveAll();
+        for (const Setting& setting : kSettings) oHeader->SetItem(setting.key, setting.value);
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.InitializeHeader"); }
 }
 

@@ -5,8 +5,8 @@
 
 namespace htdrdd::basPublic {
 
-/// Empties a dictionary and gives it the 31 header settings with their defaults, in order. A failure is
-/// reported and leaves what was set up to then.
-void InitializeHeader(Dictionary& oHeader) noexcept;
+/// Empties a dictionary and gives it the 31 header settings with their defaults, in order. A failure, such as
+/// an empty reference, is reported and leaves what was set up to then.
+void InitializeHeader(const Ref<Dictionary>& oHeader) noexcept;
 
 } // namespace htdrdd::basPublic

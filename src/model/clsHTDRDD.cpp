@@ -19,7 +19,7 @@ clsHTDRDD::clsHTDRDD() noexcept {
         SubtestScaledScore = Make<clsHTDRDDScaledScore>();
         Header = Make<Dictionary>();
         Header->CompareMode(Compare::IgnoreCase);
-        basPublic::InitializeHeader(*Header);
+        basPublic::InitializeHeader(Header);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDD.Class_Initialize"); }
 }
 
@@ -36,6 +36,7 @@ clsHTDRDD::~clsHTDRDD() {
 }
 
 void clsHTDRDD::Clear() {
+    const Ref<clsHTDRDD> self(this); // a report may make the host release the document
     Questions->RemoveAll();
     Versions->Sequences->RemoveAll();
     Versions->Answers->RemoveAll();
@@ -45,7 +46,7 @@ void clsHTDRDD::Clear() {
     SubtestGradeScale->RemoveAll();
     ScaledScore->Clear();
     SubtestScaledScore->Clear();
-    basPublic::InitializeHeader(*Header);
+    basPublic::InitializeHeader(Header);
     TemplateName.clear();
     ReportType = HTDReportTypeSurvey;
     NumPages = 0;
@@ -65,6 +66,7 @@ Text clsHTDRDD::Version() const { return DecimalText(kMajorVersion) + u'.' + Dec
 bool clsHTDRDD::AddDefaultSubtest() noexcept {
     bool result = false;
     try {
+        const Ref<clsHTDRDD> self(this);
         if (Subtests->Count() == 0) {
             auto overall = Make<clsHTDRDDSubtest>();
             overall->SubtestName = u"Overall";

@@ -39,16 +39,19 @@ public:
     Ref<Dictionary> Header;                       ///< settings of the report header; keys in any case
     Ref<Object> oState;                           ///< a slot for the host; Clear, and so Read, empties it
 
-    /// Resets everything but FileName, and makes the definition a survey. A failure passes to the caller.
+    /// Resets everything but FileName, and makes the definition a survey. A failure, such as a member that is
+    /// an empty reference, passes to the caller, and what was reset before it stays so.
     void Clear();
 
-    /// Reads a definition file into this object. False for a file that isn't there, with nothing changed; for
-    /// a file that isn't a definition or is broken, with the complaint made and with what was read up to
-    /// then. A true result sets FileName. AfterRead is raised in any case.
+    /// Reads a definition file into this object. A file that isn't there changes nothing and gives false in
+    /// silence. Otherwise the object is cleared first. False for a file whose first line is no section line,
+    /// in silence, and for a broken one, with a complaint; the object holds what was read up to there. Only a
+    /// true result sets FileName. AfterRead is raised in any case.
     bool Read(TextView sRDDFile);
 
     /// Registers the host object of this thread, for all definitions, until another takes its place; an empty
-    /// reference goes back to Error.log. Whether a host is registered now.
+    /// reference goes back to Error.log. Whether a host is registered now. A second thread needs a host
+    /// object of its own.
     bool SetError(const Ref<LateBound>& oErr);
 
     Text FileName; ///< path last read or saved

@@ -47,7 +47,7 @@ private:
     static void Demand(bool condition, Where at) {
         if (!condition) throw Failure(Err::Subscript, at);
     }
-    std::size_t Offset(std::int32_t index, Where at) const {
+    [[nodiscard]] std::size_t Offset(std::int32_t index, Where at) const {
         const std::int64_t offset = std::int64_t{index} - lowerBound_;
         Demand(offset >= 0 && offset < static_cast<std::int64_t>(items_.size()), at);
         return static_cast<std::size_t>(offset);

@@ -75,7 +75,7 @@ private:
 
 /// Runs one statement and drops its failure.
 template <class Statement>
-void IgnoreFailure(Statement statement) noexcept {
+void IgnoreFailure(const Statement& statement) noexcept {
     try {
         statement();
     } catch (...) { // meant: the caller goes on whatever happened

@@ -1,6 +1,7 @@
 #include "platform/file_system.h"
 
 #include <new>
+#include <utility>
 
 namespace htdrdd {
 namespace {
@@ -11,6 +12,12 @@ constexpr std::align_val_t kAlignment{64};
 } // namespace
 
 Bytes::Bytes(std::size_t size) : data_(static_cast<char*>(::operator new(size, kAlignment))), size_(size) {}
+
+void Bytes::Grow(std::size_t size) {
+    Bytes grown(size);
+    View().copy(grown.Data(), size);
+    *this = std::move(grown);
+}
 
 void Bytes::Free::operator()(char* data) const noexcept { ::operator delete(data, kAlignment); }
 

@@ -20,7 +20,9 @@ public:
     explicit Bytes(std::size_t size);
 
     [[nodiscard]] char* Data() noexcept { return data_.get(); }
-    [[nodiscard]] std::string_view View() const noexcept { return {data_.get(), size_}; }
+    [[nodiscard]] std::string_view View() const noexcept { return {data_.get(), data_ ? size_ : 0}; }
+    /// Makes room for more behind the bytes that are there.
+    void Grow(std::size_t size);
     /// Forgets what stands behind the first `size` bytes.
     void Shorten(std::size_t size) noexcept { size_ = size; }
 

@@ -12,6 +12,8 @@
 namespace htdrdd {
 namespace {
 
+constexpr std::size_t kLeastRoom = 4096; // bytes
+
 std::string Native(TextView path, Where at) {
     if (path.find(u'\0') != TextView::npos) throw Failure(Err::BadFileName, at);
     return ToNativePath(path);
@@ -99,13 +101,15 @@ public:
         struct stat status {};
         if (::fstat(file.Get(), &status) != 0) throw FileFailure(errno, path, at);
         if (!S_ISREG(status.st_mode)) throw Failure(Err::PermissionDenied, at);
-        Bytes bytes(std::min(limit, static_cast<std::size_t>(status.st_size)));
+        // One byte more than the file has, so that its end shows; the size may be out of date or not be told.
+        Bytes bytes(std::min(limit, static_cast<std::size_t>(status.st_size) + 1));
         std::size_t filled = 0;
-        while (filled < bytes.View().size()) {
+        while (filled < limit) {
+            if (filled == bytes.View().size()) bytes.Grow(std::min(limit, 2 * filled + kLeastRoom));
             const ssize_t got = ::read(file.Get(), bytes.Data() + filled, bytes.View().size() - filled);
             if (got < 0 && errno == EINTR) continue;
             if (got < 0) throw FileFailure(errno, path, at);
-            if (got == 0) break; // it became shorter meanwhile
+            if (got == 0) break;
             filled += static_cast<std::size_t>(got);
         }
         bytes.Shorten(filled);
@@ -120,6 +124,7 @@ public:
         std::error_code error;
         std::filesystem::copy_file(Native(from, at), Native(to, at),
                                    std::filesystem::copy_options::overwrite_existing, error);
+        if (error && (FolderExists(from) || FolderExists(to))) throw Failure(Err::PermissionDenied, at);
         if (error) throw FileFailure(error.value(), FileExists(from) ? to : from, at);
     }
 

@@ -27,7 +27,7 @@ double FromDigits(const std::string& digits, Where at) {
     const std::size_t first = digits.find_first_of("123456789");
     std::int64_t exponent = 0;
     if (mark < digits.size()) {
-        const char* const start = digits.data() + mark + 1;
+        const char* const start = digits.data() + mark + (digits.find("e+") == mark ? 2 : 1);
         const auto parsed = std::from_chars(start, digits.data() + digits.size(), exponent);
         if (parsed.ec == std::errc::result_out_of_range) exponent = *start == '-' ? INT32_MIN : INT32_MAX;
     }

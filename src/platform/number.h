@@ -36,6 +36,7 @@ namespace htdrdd {
 /// A double as an integer: nearest, ties to the even one. Outside the range of the target, or NaN: failure 6.
 template <class Int>
 [[nodiscard]] Int Rounded(double value, Where at = Where::current()) {
+    static_assert(sizeof(Int) <= 4); // wider bounds are no doubles
     const double nearest = std::nearbyint(value);
     if (!(nearest >= static_cast<double>(std::numeric_limits<Int>::min()) &&
           nearest <= static_cast<double>(std::numeric_limits<Int>::max())))

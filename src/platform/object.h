@@ -66,7 +66,7 @@ public:
     friend bool operator==(const Ref& a, const Ref& b) noexcept { return a.object_ == b.object_; }
 
 private:
-    T& Demand() const {
+    [[nodiscard]] T& Demand() const {
         if (object_ == nullptr) throw Failure(Err::NotSet);
         return *object_;
     }
@@ -93,14 +93,18 @@ class LazyRef {
 public:
     LazyRef() = default;
     LazyRef(const LazyRef&) = delete;
-    LazyRef& operator=(const LazyRef& other) {
-        object_ = other.Made();
-        return *this;
-    }
+    LazyRef& operator=(const LazyRef& other) { return *this = other.Made(); }
     ~LazyRef() = default;
     LazyRef& operator=(Ref<T> object) noexcept {
         object_ = std::move(object);
+        original_ = nullptr;
         return *this;
+    }
+    /// Lets the object that is made on first access be a copy of another, which nobody may change from now
+    /// on.
+    void MakeCopyOf(Ref<const T> original) noexcept {
+        object_ = nullptr;
+        original_ = std::move(original);
     }
     operator const Ref<T>&() const { return Made(); }
     T* operator->() const { return Made().Get(); }
@@ -108,10 +112,17 @@ public:
 
 private:
     const Ref<T>& Made() const {
-        if (!object_) object_ = Make<T>();
+        if (!object_) {
+            if constexpr (requires(const T& original) { original.Copy(); })
+                object_ = original_ ? original_->Copy() : Make<T>();
+            else
+                object_ = Make<T>();
+            original_ = nullptr;
+        }
         return object_;
     }
     mutable Ref<T> object_;
+    mutable Ref<const T> original_;
 };
 
 } // namespace htdrdd

@@ -12,13 +12,14 @@
 namespace htdrdd {
 namespace {
 
+using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
+
 /// The characters of the bytes 0x80 to 0xFF.
 using UpperHalf = std::array<char16_t, 128>;
 
 UpperHalf LoadUpperHalf() {
     UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(ucnv_open("windows-1252", &status),
-                                                                       &ucnv_close);
+    const Converter converter(ucnv_open("windows-1252", &status), &ucnv_close);
     UpperHalf characters{};
     for (std::size_t i = 0; i < characters.size(); ++i) {
         const char byte = static_cast<char>(i + 0x80);
@@ -178,6 +179,19 @@ std::string ToNativePath(TextView text) {
 
 Text FromNativePath(std::string_view bytes) {
     return Decode(bytes, [](std::uint8_t byte) { return static_cast<char16_t>(kStrayByte + byte); });
+}
+
+Text FromCharacterSet(std::string_view bytes, const char* name) {
+    UErrorCode status = U_ZERO_ERROR;
+    const Converter converter(ucnv_open(name, &status), &ucnv_close);
+    Text text(bytes.size() * 2, u'\0'); // no byte makes more than two units
+    const auto length =
+        converter ? ucnv_toUChars(converter.get(), text.data(), static_cast<std::int32_t>(text.size()),
+                                  bytes.data(), static_cast<std::int32_t>(bytes.size()), &status)
+                  : 0;
+    if (U_FAILURE(status)) return FromUtf8(bytes);
+    text.resize(static_cast<std::size_t>(length));
+    return text;
 }
 
 Text FromCodePage(std::string_view bytes) {

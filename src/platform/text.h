@@ -77,7 +77,11 @@ void EachPiece(TextView text, TextView delimiter, Piece piece) {
 [[nodiscard]] std::string ToNativePath(TextView text);
 [[nodiscard]] Text FromNativePath(std::string_view bytes);
 
-/// The single-byte code page, Windows-1252: each byte has a character, and a unit without a byte becomes "?".
+/// Bytes in a character set of the operating system, by its name. An unknown set counts as UTF-8.
+[[nodiscard]] Text FromCharacterSet(std::string_view bytes, const char* name);
+
+/// The single-byte code page, Windows-1252: each byte has a character, and a character without a byte
+/// becomes "?".
 [[nodiscard]] Text FromCodePage(std::string_view bytes);
 [[nodiscard]] std::string ToCodePage(TextView text);
 

@@ -23,7 +23,7 @@ std::size_t FindLineFeed(TextView text) noexcept {
     return TextView::npos;
 }
 
-Text FromLittleEndian(std::string_view bytes) {
+[[maybe_unused]] Text FromLittleEndian(std::string_view bytes) {
     Text text(bytes.size() / 2, u'\0');
     for (std::size_t i = 0; i < text.size(); ++i)
         text[i] = static_cast<char16_t>(static_cast<unsigned char>(bytes[2 * i]) |

@@ -19,6 +19,10 @@ public:
     /// A Unicode text's byte order mark is skipped and an odd last byte is dropped.
     TextReader(FileSystem& files, TextView path, Encoding encoding, Where at = Where::current());
 
+    TextReader(const TextReader&) = delete; // lines refer to it
+    TextReader& operator=(const TextReader&) = delete;
+    ~TextReader() = default;
+
     /// True as soon as nothing is left.
     [[nodiscard]] bool AtEndOfStream() const noexcept { return rest_.empty(); }
     /// The next line without its end, a line feed with at most one carriage return in front; a carriage

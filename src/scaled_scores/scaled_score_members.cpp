@@ -14,10 +14,11 @@ void DecipherProperty(Property& property, bool bUnicode) {
 
 } // namespace
 
-void DecipherConnection(clsHTDRDDScaledScoreDB& DB, bool bUnicode) {
-    DecipherProperty(DB.Connect, bUnicode);
-    DecipherProperty(DB.User, bUnicode);
-    DecipherProperty(DB.Password, bUnicode);
+void DecipherConnection(const clsHTDRDDScaledScore& score, bool bUnicode) {
+    const Ref<clsHTDRDDScaledScoreDB> DB = score.DB; // held, since a report may make the host replace it
+    DecipherProperty(DB->Connect, bUnicode);
+    DecipherProperty(DB->User, bUnicode);
+    DecipherProperty(DB->Password, bUnicode);
 }
 
 } // namespace htdrdd

@@ -1,27 +1,21 @@
 /// The members of a scaled score as they stand in files.
 #pragma once
 
-#include "foundation/value_forms.h"
+#include "foundation/member_rows.h"
 #include "scaled_scores/clsHTDRDDScaledScore.h"
 
 #include <array>
 
 namespace htdrdd {
 
-/// One member: its key, and how its value is put in.
-struct ScaledScoreMember {
-    TextView key;
-    void (*put)(clsHTDRDDScaledScore& score, TextView value, Where at);
-};
+using ScaledScoreRow = MemberRow<clsHTDRDDScaledScore>;
 
 template <auto Field>
-constexpr ScaledScoreMember OfScore(TextView key) {
-    return {key, [](clsHTDRDDScaledScore& score, TextView value, Where at) {
-                ReadValue(value, score.*Field, at);
-            }};
+constexpr ScaledScoreRow OfScore(TextView key) {
+    return PlainRow<clsHTDRDDScaledScore, Field>(key);
 }
 template <auto Field>
-constexpr ScaledScoreMember OfDB(TextView key) {
+constexpr ScaledScoreRow OfDB(TextView key) {
     return {key, [](clsHTDRDDScaledScore& score, TextView value, Where at) {
                 ReadValue(value, (*score.DB).*Field, at);
             }};
@@ -49,9 +43,9 @@ inline constexpr std::array kScaledScoreMembers{
     OfDB<&clsHTDRDDScaledScoreDB::DSNBased>(u"ScaledScoreDBDSNBased"),
     OfDB<&clsHTDRDDScaledScoreDB::DirectoryBased>(u"ScaledScoreDBDirectoryBased"),
     OfDB<&clsHTDRDDScaledScoreDB::DSNName>(u"ScaledScoreDBDSNName"),
-    OfDB<&clsHTDRDDScaledScoreDB::User>(u"ScaledScoreDBUser"),         // enciphered,
-    OfDB<&clsHTDRDDScaledScoreDB::Password>(u"ScaledScoreDBPassword"), // enciphered,
-    OfDB<&clsHTDRDDScaledScoreDB::Connect>(u"ScaledScoreDBConnect"),   // enciphered
+    OfDB<&clsHTDRDDScaledScoreDB::User>(u"ScaledScoreDBUser"), // this and the two below stand enciphered
+    OfDB<&clsHTDRDDScaledScoreDB::Password>(u"ScaledScoreDBPassword"),
+    OfDB<&clsHTDRDDScaledScoreDB::Connect>(u"ScaledScoreDBConnect"),
 };
 static_assert(kScaledScoreMembers.size() == 23);
 
@@ -59,7 +53,8 @@ static_assert(kScaledScoreMembers.size() == 23);
 /// them.
 inline constexpr TextView kScaledScoreUnicodeKey = u"ScaledScoreDBUnicode";
 
-/// Deciphers Connect, User and Password where they aren't empty.
-void DecipherConnection(clsHTDRDDScaledScoreDB& DB, bool bUnicode);
+/// Deciphers Connect, User and Password, in that order, where they aren't empty. A text that isn't enciphered
+/// is reported and becomes empty. Fails with 91 without a DB.
+void DecipherConnection(const clsHTDRDDScaledScore& score, bool bUnicode);
 
 } // namespace htdrdd

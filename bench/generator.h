@@ -1,0 +1,21 @@
+/// Definitions of any size for the benchmarks: the same parameters give the same bytes.
+#pragma once
+
+#include "platform/text.h"
+
+#include <string>
+
+namespace htdrdd::bench {
+
+struct Shape {
+    int questions = 50;
+    int objectives = 6; ///< learning objectives, the overall one included; at least 1
+    int versions = 0;   ///< version identifiers; the answer key is the same for each
+};
+
+/// A definition file in UTF-16 with its byte order mark, about 1,400 bytes a question.
+[[nodiscard]] std::string DefinitionText(const Shape& shape);
+/// The same content in UTF-8, as a program would keep it in JSON.
+[[nodiscard]] std::string DefinitionJson(const Shape& shape);
+
+} // namespace htdrdd::bench

@@ -1,0 +1,168 @@
+/// Reading definition files, and letting go of what was read.
+#include "generator.h"
+#include "model/clsHTDRDD.h"
+
+#include <benchmark/benchmark.h>
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <fstream>
+#include <malloc.h>
+#include <map>
+#include <optional>
+#include <tuple>
+#include <unistd.h>
+
+namespace htdrdd::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Files of the benchmarks, made when they are first asked for and deleted at the end.
+class Files {
+public:
+    Files() : folder_(fs::temp_directory_path() / ("htdrdd_bench." + std::to_string(::getpid()))) {
+        fs::create_directory(folder_);
+    }
+    Files(const Files&) = delete;
+    Files& operator=(const Files&) = delete;
+    ~Files() {
+        std::error_code ignored;
+        fs::remove_all(folder_, ignored);
+    }
+    const fs::path& Of(const Shape& shape, std::string (*make)(const Shape&)) {
+        const Key key{shape.questions, shape.objectives, shape.versions, make == &DefinitionJson};
+        auto& path = paths_[key];
+        if (path.empty()) Write(path = folder_ / std::to_string(paths_.size()), make(shape));
+        return path;
+    }
+    static void Write(const fs::path& path, const std::string& bytes) {
+        std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+
+private:
+    using Key = std::tuple<int, int, int, bool>;
+    fs::path folder_;
+    std::map<Key, fs::path> paths_;
+};
+
+Files& TheFiles() {
+    static Files files;
+    return files;
+}
+
+double HeapInUse() {
+    const struct mallinfo2 info = ::mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+Shape ShapeOf(const benchmark::State& state) {
+    return {.questions = static_cast<int>(state.range(0)),
+            .objectives = static_cast<int>(state.range(1)),
+            .versions = static_cast<int>(state.range(2))};
+}
+
+void Report(benchmark::State& state, const fs::path& path, double held) {
+    const auto questions = static_cast<double>(state.range(0));
+    const auto iterations = static_cast<double>(state.iterations());
+    state.SetItemsProcessed(static_cast<std::int64_t>(questions * iterations));
+    state.SetBytesProcessed(static_cast<std::int64_t>(static_cast<double>(fs::file_size(path)) * iterations));
+    state.SetComplexityN(state.range(0));
+    state.counters["held/question"] = held / questions;
+}
+
+Ref<clsHTDRDD> ReadNew(TextView path) {
+    auto rdd = Make<clsHTDRDD>();
+    return rdd->Read(path) ? rdd : nullptr;
+}
+
+/// What reading costs; letting go isn't counted.
+void Read(benchmark::State& state) {
+    const fs::path& file = TheFiles().Of(ShapeOf(state), &DefinitionText);
+    const Text path = FromNativePath(file.native());
+    double held = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const double before = HeapInUse();
+        state.ResumeTiming();
+        Ref<clsHTDRDD> rdd = ReadNew(path);
+        state.PauseTiming();
+        if (!rdd) return state.SkipWithError("the definition wasn't read");
+        held = HeapInUse() - before;
+        rdd = nullptr;
+        state.ResumeTiming();
+    }
+    Report(state, file, held);
+}
+
+/// Letting go of a definition that was read.
+void Release(benchmark::State& state) {
+    const fs::path& file = TheFiles().Of(ShapeOf(state), &DefinitionText);
+    const Text path = FromNativePath(file.native());
+    for (auto _ : state) {
+        state.PauseTiming();
+        Ref<clsHTDRDD> rdd = ReadNew(path);
+        if (!rdd) return state.SkipWithError("the definition wasn't read");
+        state.ResumeTiming();
+        rdd = nullptr;
+    }
+    Report(state, file, 0);
+}
+
+/// The same content out of a JSON file, which leaves a tree of values.
+void ReadJson(benchmark::State& state) {
+    const fs::path& file = TheFiles().Of(ShapeOf(state), &DefinitionJson);
+    double held = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const double before = HeapInUse();
+        state.ResumeTiming();
+        std::ifstream stream(file, std::ios::binary);
+        std::string text(fs::file_size(file), '\0');
+        stream.read(text.data(), static_cast<std::streamsize>(text.size()));
+        std::optional<nlohmann::json> json = nlohmann::json::parse(text);
+        state.PauseTiming();
+        if ((*json)["Question"].size() != static_cast<std::size_t>(state.range(0)))
+            return state.SkipWithError("the content isn't the same");
+        text = std::string();
+        held = HeapInUse() - before;
+        json.reset();
+        state.ResumeTiming();
+    }
+    Report(state, file, held);
+}
+
+/// A file that announces two thousand million learning objectives, with one question. The read says no; what
+/// counts is that it takes microseconds.
+void HostileCounts(benchmark::State& state) {
+    const fs::path file = fs::temp_directory_path() / ("htdrdd_hostile." + std::to_string(::getpid()));
+    Files::Write(file,
+                 "[Report]\nNumQuestions=1\nNumSubtests=2147483647\n\n[Question]\nSubtestNumber=32767,2\n");
+    const Text path = FromNativePath(file.native());
+    const auto rdd = Make<clsHTDRDD>();
+    for (auto _ : state) benchmark::DoNotOptimize(rdd->Read(path));
+    if (rdd->Questions->Count() != 1) state.SkipWithError("the question wasn't read");
+    fs::remove(file);
+}
+
+constexpr std::int64_t kObjectives = 6;
+
+void Sizes(benchmark::internal::Benchmark* read) {
+    read->ArgNames({"questions", "objectives", "versions"})->Unit(benchmark::kMillisecond);
+    for (const std::int64_t questions : {50, 1'000, 10'000, 100'000}) read->Args({questions, kObjectives, 0});
+    read->Complexity(benchmark::oN);
+}
+
+void Widths(benchmark::internal::Benchmark* read) {
+    read->ArgNames({"questions", "objectives", "versions"})->Unit(benchmark::kMillisecond);
+    read->Args({10'000, 50, 0})->Args({10'000, kObjectives, 1'000});
+}
+
+BENCHMARK(Read)->Apply(Sizes);
+BENCHMARK(Read)->Name("ReadWide")->Apply(Widths);
+BENCHMARK(Release)->Apply(Sizes);
+BENCHMARK(ReadJson)->Apply(Sizes);
+BENCHMARK(HostileCounts)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+} // namespace htdrdd::bench

@@ -1,0 +1,28 @@
+#include "host/show.h"
+
+#include "host/definitions.h"
+#include "host/output.h"
+#include "host/show_json.h"
+#include "host/show_summary.h"
+
+namespace htdrdd::host {
+
+ExitCode Show(const ShowOptions& options) {
+    Definitions definitions;
+    const Terminal terminal = Terminal::OfOutput();
+    bool first = true;
+    for (const std::string& file : options.files) {
+        const auto definition = definitions.Read(file);
+        if (!definition) continue;
+        if (options.json) {
+            Print(DefinitionAsJson(*definition, options.secrets));
+        } else {
+            if (!first) Print("\n");
+            Print(Summary(*definition, terminal));
+        }
+        first = false;
+    }
+    return definitions.AnyRefused() ? ExitCode::Refused : ExitCode::Fine;
+}
+
+} // namespace htdrdd::host

@@ -1,0 +1,20 @@
+/// htdrdd show: what definition files hold.
+#pragma once
+
+#include "host/exit_code.h"
+
+#include <string>
+#include <vector>
+
+namespace htdrdd::host {
+
+struct ShowOptions {
+    std::vector<std::string> files;
+    bool json = false;
+    bool secrets = false; ///< users, passwords and connection strings aren't masked
+};
+
+/// Shows each file that can be read and goes on behind one that is refused.
+[[nodiscard]] ExitCode Show(const ShowOptions& options);
+
+} // namespace htdrdd::host

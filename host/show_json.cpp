@@ -1,0 +1,189 @@
+#include "host/show_json.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string_view>
+
+namespace htdrdd::host {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json Of(TextView text) { return ToUtf8(text); }
+
+Json Of(const clsHTDRDDStrings& strings) {
+    Json items = Json::array();
+    for (std::int32_t l = 1; l <= strings.Count(); ++l) items.push_back(Of(strings.Item(l)));
+    return items;
+}
+
+Json Of(const clsHTDRDDQuestionSubtests& memberships) {
+    Json items = Json::array();
+    for (std::int32_t l = 1; l <= memberships.Count(); ++l)
+        items.push_back({{"Include", memberships.Includes(l)}, {"Weight", memberships.WeightOf(l)}});
+    return items;
+}
+
+Json Of(const clsHTDRDDQuestion& question) {
+    return {{"AnswerValues", Of(*question.AnswerValues)},
+            {"AnswerCodes", Of(*question.AnswerCodes)},
+            {"Subtests", Of(*question.Subtests)},
+            {"CorrectAnswers", Of(*question.CorrectAnswers)},
+            {"CorrectCodes", Of(*question.CorrectCodes)},
+            {"CorrectAnswerPoints", Of(*question.CorrectAnswerPoints)},
+            {"QuestionName", Of(question.QuestionName)},
+            {"QuestionText", Of(question.QuestionText)},
+            {"IncludeGrade", question.IncludeGrade},
+            {"IncludeTally", question.IncludeTally},
+            {"DataType", static_cast<std::int32_t>(question.DataType)},
+            {"ExtraCredit", question.ExtraCredit},
+            {"PartialCredit", question.PartialCredit},
+            {"BlankText", Of(question.BlankText)},
+            {"BlankValue", question.BlankValue},
+            {"MultipleText", Of(question.MultipleText)},
+            {"MultipleValue", question.MultipleValue},
+            {"MissingText", Of(question.MissingText)},
+            {"MissingValue", question.MissingValue},
+            {"NAValue", question.NAValue},
+            {"MultiplesPermitted", question.MultiplesPermitted},
+            {"IDField", question.IDField},
+            {"SubjectiveField", question.SubjectiveField},
+            {"NumCorrect", question.NumCorrect},
+            {"CorrectAnd", question.CorrectAnd},
+            {"CorrectPoints", question.CorrectPoints},
+            {"IncorrectPoints", question.IncorrectPoints},
+            {"NoResponsePoints", question.NoResponsePoints},
+            {"SubjectivePoints", question.SubjectivePoints},
+            {"MinValue", question.MinValue},
+            {"MaxValue", question.MaxValue},
+            {"Benchmark", question.Benchmark},
+            {"Difficulty", Of(question.Difficulty)},
+            {"Reference", Of(question.Reference)},
+            {"Topic", Of(question.Topic)},
+            {"Keywords", Of(question.Keywords)},
+            {"Miscellaneous", Of(question.Miscellaneous)},
+            {"Notes", Of(question.Notes)}};
+}
+
+Json Of(const clsHTDRDDVersions& versions) {
+    Json sequences = Json::array();
+    for (std::int32_t l = 1; l <= versions.Sequences->Count(); ++l) {
+        const auto sequence = versions.Sequences->Item(l);
+        Json positions = Json::array();
+        for (std::int32_t n = 1; n <= sequence->Count(); ++n) positions.push_back(sequence->Item(n));
+        sequences.push_back(std::move(positions));
+    }
+    return {{"Question", versions.Question},
+            {"VType", static_cast<std::int32_t>(versions.VType())},
+            {"Answers", Of(*versions.Answers)},
+            {"Sequences", std::move(sequences)}};
+}
+
+Json Of(const clsHTDRDDGradeScale& scale) {
+    Json items = Json::array();
+    for (std::int32_t l = 1; l <= scale.Count(); ++l) {
+        const auto item = scale.Item(l);
+        items.push_back({{"Grade", Of(item->Grade)}, {"StartValue", Of(item->StartValue)}});
+    }
+    return {{"ScaleName", Of(scale.ScaleName)}, {"Items", std::move(items)}};
+}
+
+Json Of(const clsHTDRDDScaledScoreDB& db, bool bSecrets) {
+    const auto secret = [&](TextView text) { return bSecrets || text.empty() ? Of(text) : Json("***"); };
+    return {{"Name", Of(db.Name)},
+            {"Catalog", Of(db.Catalog)},
+            {"Table", Of(db.Table)},
+            {"MinFieldPrimary", Of(db.MinFieldPrimary)},
+            {"MaxFieldPrimary", Of(db.MaxFieldPrimary)},
+            {"MinFieldSecondary", Of(db.MinFieldSecondary)},
+            {"MaxFieldSecondary", Of(db.MaxFieldSecondary)},
+            {"ScoreField", Of(db.ScoreField)},
+            {"ScoreGrade", Of(db.ScoreGrade)},
+            {"DBType", db.DBType},
+            {"Connect", secret(db.Connect)},
+            {"DirectoryBased", db.DirectoryBased},
+            {"DSNBased", db.DSNBased},
+            {"DSNName", Of(db.DSNName)},
+            {"User", secret(db.User)},
+            {"Password", secret(db.Password)},
+            {"Valid", db.Valid}};
+}
+
+Json Of(const clsHTDRDDScaledScore& score, bool bSecrets) {
+    return {{"LearningObjectivePrimary", Of(score.LearningObjectivePrimary)},
+            {"LearningObjectiveSecondary", Of(score.LearningObjectiveSecondary)},
+            {"Precision", score.Precision},
+            {"ScaledScoreName", Of(score.ScaledScoreName)},
+            {"ScaledScoreValues", static_cast<std::int32_t>(score.ScaledScoreValues)},
+            {"ScaledScoreCriteriaPrimary", static_cast<std::int32_t>(score.ScaledScoreCriteriaPrimary)},
+            {"ScaledScoreCriteriaSecondary", static_cast<std::int32_t>(score.ScaledScoreCriteriaSecondary)},
+            {"DB", Of(*score.DB, bSecrets)}};
+}
+
+Json Of(clsHTDRDDSubtest& subtest, bool bSecrets) {
+    return {{"SubtestName", Of(subtest.SubtestName)},
+            {"Description", Of(subtest.Description)},
+            {"Benchmark", subtest.Benchmark},
+            {"GradeScale", Of(*subtest.GradeScale)},
+            {"ScaledScore", Of(*subtest.ScaledScore, bSecrets)}};
+}
+
+Json Of(const Dictionary& header) {
+    Json::object_t items;
+    // Not by name: files may hold any number of keys, and each lookup walks them all.
+    for (const auto& entry : header.Entries())
+        items.emplace_back(ToUtf8(entry.key.ToText()), Of(entry.item.ToText()));
+    return items;
+}
+
+Json Of(const clsHTDRDD& definition, bool bSecrets) {
+    Json questions = Json::array();
+    for (std::int32_t l = 1; l <= definition.Questions->Count(); ++l)
+        questions.push_back(Of(*definition.Questions->Item(l)));
+    Json subtests = Json::array();
+    for (std::int32_t l = 1; l <= definition.Subtests->Count(); ++l)
+        subtests.push_back(Of(*definition.Subtests->Item(l), bSecrets));
+    Json object{{"FileName", Of(definition.FileName)},
+                {"TemplateName", Of(definition.TemplateName)},
+                {"Description", Of(definition.Description)},
+                {"Notes", Of(definition.Notes)},
+                {"ReportType", static_cast<std::int32_t>(definition.ReportType)},
+                {"NumPages", definition.NumPages},
+                {"CustomHeader", definition.CustomHeader}};
+    object["Questions"] = std::move(questions);
+    object["Versions"] = Of(*definition.Versions);
+    object["Subtests"] = std::move(subtests);
+    object["GradeScale"] = Of(*definition.GradeScale);
+    object["SubtestGradeScale"] = Of(*definition.SubtestGradeScale);
+    object["ScaledScore"] = Of(*definition.ScaledScore, bSecrets);
+    object["SubtestScaledScore"] = Of(*definition.SubtestScaledScore, bSecrets);
+    object["Header"] = Of(*definition.Header);
+    return object;
+}
+
+/// U+007F to U+009F as escapes: JSON allows them as they are, but terminals obey some of them.
+std::string WithoutControls(std::string_view json) {
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    std::string result;
+    result.reserve(json.size() + 1);
+    for (std::size_t i = 0; i < json.size(); ++i) {
+        auto byte = static_cast<unsigned char>(json[i]);
+        const bool twoBytes = byte == 0xC2 && i + 1 < json.size();
+        if (twoBytes) byte = static_cast<unsigned char>(json[i + 1]);
+        if (byte != 0x7F && !(twoBytes && byte < 0xA0)) {
+            result += json[i];
+            continue;
+        }
+        result.append("\\u00").append({kDigits[byte >> 4U], kDigits[byte & 0xFU]});
+        if (twoBytes) ++i;
+    }
+    return result;
+}
+
+} // namespace
+
+std::string DefinitionAsJson(const clsHTDRDD& definition, bool bSecrets) {
+    return WithoutControls(Of(definition, bSecrets).dump(2)) + '\n';
+}
+
+} // namespace htdrdd::host

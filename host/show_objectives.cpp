@@ -1,0 +1,128 @@
+#include "host/show_objectives.h"
+
+#include "host/numbers.h"
+#include "host/output.h"
+#include "host/table.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace htdrdd::host {
+namespace {
+
+std::string ScaleText(const clsHTDRDDGradeScale& scale) {
+    std::string text;
+    for (std::int32_t l = 1; l <= scale.Count(); ++l) {
+        const auto item = scale.Item(l);
+        text.append(text.empty() ? "" : ", ").append(Harmless(item->Grade));
+        text.append(" ").append(Harmless(item->StartValue));
+    }
+    return text;
+}
+
+const char* LookupName(HTDScaledScoreValues values) {
+    switch (values) {
+    case HTDScaledScoreValuesNone: return "";
+    case HTDScaledScoreValuesDBTotal: return "total score";
+    case HTDScaledScoreValuesDBPercent: return "percent score";
+    case HTDScaledScoreValuesDBPercentile: return "percentile";
+    }
+    return "unknown";
+}
+
+/// What a scaled score is looked up by and where: "percent score in table Norms of SCORES". Empty for a
+/// record that isn't filled in.
+std::string ScaledScoreText(const clsHTDRDDScaledScore& score) {
+    std::string text = LookupName(score.ScaledScoreValues);
+    if (text.empty()) return text;
+    if (!score.DB->Table.empty()) text += " in table " + Harmless(score.DB->Table);
+    if (!score.DB->Name.empty()) text += " of " + Harmless(score.DB->Name);
+    return text;
+}
+
+/// Its own or, in files that have none there, that of the document.
+const clsHTDRDDScaledScore& ScaledScoreOf(const clsHTDRDD& definition, std::int32_t objective) {
+    const clsHTDRDDScaledScore& own = *definition.Subtests->Item(objective)->ScaledScore;
+    if (own.ScaledScoreValues != HTDScaledScoreValuesNone) return own;
+    return objective == 1 ? *definition.ScaledScore : *definition.SubtestScaledScore;
+}
+
+/// Things that several learning objectives share, each listed once under a label of its own.
+class Shared {
+public:
+    /// The label of a thing; empty for one without content.
+    std::string Label(const std::string& name, const std::string& content) {
+        if (content.empty()) return {};
+        const auto [entry, isNew] = labels_.try_emplace(name + '\n' + content);
+        if (!isNew) return entry->second;
+        const std::string base = name.empty() ? "unnamed" : name;
+        const std::int32_t number = ++uses_[base];
+        entry->second = number == 1 ? base : base + " (" + std::to_string(number) + ")";
+        listed_.emplace_back(entry->second, content);
+        return entry->second;
+    }
+    [[nodiscard]] std::string Listed(const char* heading, const Terminal& terminal) const {
+        constexpr std::size_t kWidestLabel = 30;
+        std::size_t label = 0;
+        for (const auto& entry : listed_) label = std::max(label, DisplayWidth(entry.first) + 2);
+        label = std::min({label, kWidestLabel, terminal.width / 2});
+        std::string text = listed_.empty() ? "" : '\n' + terminal.Bold(heading) + '\n';
+        for (const auto& [name, content] : listed_) {
+            const std::string fitted = Fitted(name, label - 2);
+            text += fitted + std::string(label - DisplayWidth(fitted), ' ');
+            text += Wrapped(content, terminal.width - label, label) + '\n';
+        }
+        return text;
+    }
+
+private:
+    std::unordered_map<std::string, std::string> labels_;
+    std::unordered_map<std::string, std::int32_t> uses_;
+    std::vector<std::pair<std::string, std::string>> listed_;
+};
+
+} // namespace
+
+Memberships::Memberships(const clsHTDRDD& definition)
+    : ofQuestion(static_cast<std::size_t>(definition.Questions->Count())),
+      questionsOfObjective(static_cast<std::size_t>(definition.Subtests->Count())) {
+    for (std::size_t i = 0; i < ofQuestion.size(); ++i) {
+        const auto own = definition.Questions->Item(static_cast<std::int32_t>(i) + 1)->Subtests;
+        const std::int32_t count = std::min(own->Count(), definition.Subtests->Count());
+        for (std::int32_t l = 1; l <= count; ++l) {
+            if (!own->Includes(l)) continue;
+            ++questionsOfObjective[static_cast<std::size_t>(l) - 1];
+            ofQuestion[i].append(ofQuestion[i].empty() ? "" : ", ").append(std::to_string(l));
+            if (const double weight = own->WeightOf(l); weight != 1)
+                ofQuestion[i].append(" ×").append(NumberText(weight));
+        }
+    }
+}
+
+std::string ObjectivesText(const clsHTDRDD& definition, const Memberships& memberships,
+                           const Terminal& terminal) {
+    using Align = Table::Align;
+    Table table({{"#", Align::Right},
+                 {"Name"},
+                 {"Questions", Align::Right},
+                 {"Benchmark", Align::Right},
+                 {"Grade scale"},
+                 {"Scaled score"}});
+    Shared scales;
+    Shared scores;
+    for (std::int32_t l = 1; l <= definition.Subtests->Count(); ++l) {
+        const auto subtest = definition.Subtests->Item(l);
+        const clsHTDRDDGradeScale& scale = *subtest->GradeScale;
+        const clsHTDRDDScaledScore& score = ScaledScoreOf(definition, l);
+        table.Add({std::to_string(l), Harmless(subtest->SubtestName),
+                   std::to_string(memberships.questionsOfObjective[static_cast<std::size_t>(l) - 1]),
+                   HasValue(subtest->Benchmark) ? NumberText(subtest->Benchmark) : "",
+                   scales.Label(Harmless(scale.ScaleName), ScaleText(scale)),
+                   scores.Label(Harmless(score.ScaledScoreName), ScaledScoreText(score))});
+    }
+    if (table.Empty()) return {};
+    return '\n' + terminal.Bold("Learning objectives") + '\n' + table.Drawn(terminal) +
+           scales.Listed("Grade scales", terminal) + scores.Listed("Scaled scores", terminal);
+}
+
+} // namespace htdrdd::host

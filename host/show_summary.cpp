@@ -1,0 +1,90 @@
+#include "host/show_summary.h"
+
+#include "host/output.h"
+#include "host/show_objectives.h"
+#include "host/show_questions.h"
+#include "host/table.h"
+
+#include <utility>
+#include <vector>
+
+namespace htdrdd::host {
+namespace {
+
+using Facts = std::vector<std::pair<const char*, std::string>>;
+
+std::string TypeName(HTDReportType type) {
+    switch (type) {
+    case HTDReportTypeGrade: return "test";
+    case HTDReportTypeSurvey: return "survey";
+    case HTDReportTypeGenericGrade: return "generic key";
+    }
+    return "unknown (" + std::to_string(static_cast<std::int32_t>(type)) + ")";
+}
+
+/// "50: 44 graded, 2 subjective"
+std::string QuestionCounts(const clsHTDRDDQuestions& questions) {
+    std::string text = std::to_string(questions.Count());
+    const char* separator = ": ";
+    const auto count = [&](std::int32_t number, const char* kind) {
+        if (number == 0) return;
+        text.append(separator).append(std::to_string(number)).append(kind);
+        separator = ", ";
+    };
+    count(questions.NumGraded(), " graded");
+    count(questions.NumSubjective(), " subjective");
+    count(questions.NumTallied(), " tallied");
+    count(questions.NumExtraCredit(), " for extra credit");
+    count(questions.NumPartialCredit(), " with partial credit");
+    return text;
+}
+
+/// "2 standard versions (A, B), told by question 2, Test form"
+std::string VersionsText(const clsHTDRDD& definition) {
+    const clsHTDRDDVersions& versions = *definition.Versions;
+    const HTDVersionType type = versions.VType();
+    if (type == HTDVersionTypeNone) return "none";
+    std::string text = std::to_string(versions.Answers->Count());
+    text += type == HTDVersionTypeKey ? " standard versions (" : " scrambled versions (";
+    text += Harmless(versions.Answers->AsString(u", "));
+    text += "), told by question " + std::to_string(versions.Question);
+    if (const auto question = definition.Questions->Item(versions.Question))
+        if (!question->QuestionName.empty()) text += ", " + Harmless(question->QuestionName);
+    return text;
+}
+
+std::string FactLines(const Facts& facts, const Terminal& terminal) {
+    constexpr std::size_t kLabel = 13;
+    std::string lines;
+    for (const auto& [label, value] : facts) {
+        if (value.empty()) continue;
+        std::string padded = label;
+        padded.resize(kLabel, ' ');
+        const std::size_t width = terminal.width > 2 * kLabel ? terminal.width - kLabel : kLabel;
+        lines += terminal.Dim(padded) + Wrapped(value, width, kLabel) + '\n';
+    }
+    return lines;
+}
+
+} // namespace
+
+std::string Summary(const clsHTDRDD& definition, const Terminal& terminal) {
+    const std::string file = Harmless(definition.FileName);
+    const std::string name = Harmless(Trimmed(definition.TemplateName));
+    const Memberships memberships(definition);
+    std::string text = terminal.Bold(Fitted(name.empty() ? file : name, terminal.width)) + '\n';
+    text += FactLines({{"File", file},
+                       {"Type", TypeName(definition.ReportType)},
+                       {"Description", Harmless(definition.Description)},
+                       {"Notes", Harmless(definition.Notes)},
+                       {"Pages", std::to_string(definition.NumPages)},
+                       {"Questions", QuestionCounts(*definition.Questions)},
+                       {"Versions", VersionsText(definition)},
+                       {"Header", definition.CustomHeader ? "custom" : ""}},
+                      terminal);
+    text += ObjectivesText(definition, memberships, terminal);
+    text += QuestionsText(definition, memberships, terminal);
+    return text;
+}
+
+} // namespace htdrdd::host

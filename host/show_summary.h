@@ -1,0 +1,14 @@
+/// A definition as a person reads it.
+#pragma once
+
+#include "host/terminal.h"
+#include "model/clsHTDRDD.h"
+
+#include <string>
+
+namespace htdrdd::host {
+
+/// What the definition is, its learning objectives with their scales, and a table of its questions.
+[[nodiscard]] std::string Summary(const clsHTDRDD& definition, const Terminal& terminal);
+
+} // namespace htdrdd::host
