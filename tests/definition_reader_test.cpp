@@ -2,7 +2,6 @@
 #include "platform/number.h"
 #include "support/session.h"
 
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <sys/wait.h>
@@ -311,6 +310,7 @@ TEST_F(DefinitionReader, ReadsMemberships) {
     EXPECT_EQ(shown(Question(u"SubtestNumber=2,.5,9\n")), "in*1 in*.5 ");
     EXPECT_EQ(shown(Question(u"SubtestNumber=2\t3,1\t-1,4\t,7\n")), "in*1 in*1 ");
     EXPECT_EQ(shown(Question(u"SubtestNumber=1,2\t1,3\n")), "in*3 out*1 ");
+    EXPECT_EQ(shown(Question(u"SubtestNumber=2,3\t2\t1,2\nSubtestNumber=1,4\n")), "in*4 in*3 ");
     for (const TextView broken : {u"2\t\t1", u"2,1\t", u"32768"})
         EXPECT_FALSE(
             Question(Text(u"SubtestNumber=").append(broken).append(u"\n"),
@@ -404,6 +404,47 @@ TEST_F(DefinitionReader, ReportsFailuresOfTheFileAndWithoutHost) {
     EXPECT_FALSE(Report(u""));
     EXPECT_EQ(Heard(),
               Said{"91 Object variable or With block variable not set @ basTemplate.VB_RT_read_template"});
+}
+
+TEST_F(DefinitionReader, LetsTheHostReplaceWhatIsBeingRead) {
+    const TextView text =
+        u"[Report]\nNumSubtests=1\n\n[ScaledScore]\nScaledScoreDBConnect=a\nScaledScoreDBUser=b\n\n"
+        u"[Subtest]\nScaledScoreDBPassword=c\n\n";
+    const std::string deciphering = "5 Invalid procedure call or argument @ basPublic.Decrypt";
+    host->whenHeard = [&] {
+        rdd->ScaledScore->DB = nullptr;
+        rdd->ScaledScore = Make<clsHTDRDDScaledScore>();
+        rdd->Subtests = Make<clsHTDRDDSubtests>();
+    };
+    EXPECT_FALSE(Read(text)); // the learning objective went to the list that the host took away
+    EXPECT_EQ(Heard(),
+              (Said{deciphering, deciphering, deciphering,
+                    CountMessage("The NumSubtests parameter did not match the number of subtests found.")}));
+
+    // The last reference goes while Clear reports.
+    rdd->ScaledScore->DB = nullptr;
+    host->whenHeard = [&] { rdd = nullptr; };
+    files.files[u"/exam.rdd"] = test::Unicode(text);
+    EXPECT_FALSE(rdd->Read(u"/exam.rdd"));
+    EXPECT_FALSE(rdd);
+    EXPECT_EQ(Heard().front(),
+              "91 Object variable or With block variable not set @ clsHTDRDDScaledScore.Clear");
+}
+
+TEST_F(DefinitionReader, CopiesASharedScaleForEachObjective) {
+    ASSERT_TRUE(
+        Read(u"[Report]\nNumSubtests=3\nSubtestName=A\tB\tC\n\n[Scale]\nScaleName=S\nNumValues=1\nGrades=P\n"
+             u"StartValues=0\n"));
+    rdd->GradeScale->Item(1)->Grade = u"changed";
+    rdd->SubtestGradeScale->Item(1)->Grade = u"changed";
+    rdd->Subtests->Item(2)->GradeScale->Item(1)->Grade = u"own";
+    const auto grade = [&](std::int32_t l) { return rdd->Subtests->Item(l)->GradeScale->Item(1)->Grade; };
+    EXPECT_EQ(grade(1), u"P");
+    EXPECT_EQ(grade(2), u"own");
+    EXPECT_EQ(grade(3), u"P");
+    EXPECT_EQ(rdd->Subtests->Item(3)->GradeScale->ScaleName, u"S");
+    rdd->Subtests->Item(3)->GradeScale = nullptr; // never reads as empty
+    EXPECT_EQ(rdd->Subtests->Item(3)->GradeScale->Count(), 0);
 }
 
 TEST_F(DefinitionReader, AnnouncedCountsCostNothing) {

@@ -13,9 +13,8 @@ namespace htdrdd {
 /// A text as a template argument.
 template <std::size_t N>
 struct Literal {
-    constexpr Literal(const char16_t (&text)[N]) {
-        std::copy_n(text, N, units.begin());
-    } // NOLINT: as it is written
+    // NOLINTNEXTLINE(*-avoid-c-arrays, *-explicit-*): literals are arrays
+    constexpr Literal(const char16_t (&text)[N]) { std::copy_n(text, N, units.begin()); }
     [[nodiscard]] constexpr TextView View() const { return {units.data(), N - 1}; }
     std::array<char16_t, N> units{};
 };

@@ -92,6 +92,7 @@ TEST(DictionaryTest, KeepsTheOrderAndSpellingOfFirstInsertion) {
     EXPECT_EQ(header->Item(u"new").Is(), Variant::Kind::Empty) << "reading adds";
     header->SetKey(u"cols", u"COLUMNS");
     header->SetKey(u"rows", u"ROWS");
+    EXPECT_FALSE(header->Exists(u"cols"));
     Text text;
     for (const auto& [key, item] : header->Entries()) text += key.ToText() + u"=" + item.ToText() + u";";
     EXPECT_EQ(text, u"ROWS=3;COLUMNS=2;new=;");

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,9 +23,11 @@ class RecordingHost final : public ErrorHost {
 public:
     Said said;
     std::int32_t answer = 1;
+    std::function<void()> whenHeard; ///< called at each complaint and message
     std::int16_t RaiseError(const HostComplaint& complaint) override {
         std::string line;
         if (Silent()) line += "(silent) ";
+        if (whenHeard) whenHeard();
         if (!complaint.sTitle.empty()) line += ToUtf8(complaint.sTitle) + ": ";
         if (complaint.lKind != 0) line += "kind " + std::to_string(complaint.lKind) + ", ";
         if (!complaint.vError.IsMissing()) line += ToUtf8(complaint.vError.ToText()) + " ";
@@ -34,6 +37,7 @@ public:
         return 0;
     }
     std::int32_t MsgBoxEx(const HostMessage& message) override {
+        if (whenHeard) whenHeard();
         said.push_back(ToUtf8(message.caption) + ": " + ToUtf8(message.message) + " [" +
                        std::to_string(message.flags) + " " + ToUtf8(message.firstButton) +
                        ToUtf8(message.secondButton) + "]");
