@@ -68,7 +68,7 @@ void Report(benchmark::State& state, const fs::path& path, double held) {
     state.SetItemsProcessed(static_cast<std::int64_t>(questions * iterations));
     state.SetBytesProcessed(static_cast<std::int64_t>(static_cast<double>(fs::file_size(path)) * iterations));
     state.SetComplexityN(state.range(0));
-    state.counters["held/question"] = held / questions;
+    if (held > 0) state.counters["held/question"] = held / questions;
 }
 
 Ref<clsHTDRDD> ReadNew(TextView path) {
