@@ -4,8 +4,7 @@ namespace htdrdd {
 
 Text FlattenedLineEnds(TextView text) {
     Text flat = Replaced(text, u"\r\n", u" ");
-    std::replace(flat.begin(), flat.end(), u'\n', u' ');
-    std::replace(flat.begin(), flat.end(), u'\r', u' ');
+    std::replace_if(flat.begin(), flat.end(), IsLineEnd, u' ');
     return flat;
 }
 

@@ -30,6 +30,8 @@ protected:
     Text value_;
 };
 
+constexpr bool IsLineEnd(char16_t unit) noexcept { return unit == u'\r' || unit == u'\n'; }
+
 /// Line ends as blanks: first each carriage return and line feed pair, then each line feed, then each
 /// carriage return.
 [[nodiscard]] Text FlattenedLineEnds(TextView text);
@@ -41,7 +43,7 @@ class OneLineText : public StoredText {
 public:
     OneLineText& operator=(TextView value) noexcept {
         try {
-            if (value.find_first_of(u"\r\n") == TextView::npos)
+            if (std::none_of(value.begin(), value.end(), IsLineEnd))
                 value_ = value;
             else
                 value_ = FlattenedLineEnds(value);

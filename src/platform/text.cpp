@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <memory>
 
 namespace htdrdd {
@@ -114,15 +115,22 @@ bool SameText(TextView a, TextView b, Compare mode) noexcept {
 }
 
 bool SameInUpperCase(TextView a, TextView b) noexcept {
+    if (a.size() != b.size()) return false;
+    // Keys mostly stand in the case that is asked for, and bytes compare faster than units.
+    if (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0) return true;
     return EqualUnits(a, b, [](char16_t x, char16_t y) { return x == y || UpperUnit(x) == UpperUnit(y); });
 }
 
 TextView TrimmedStart(TextView text) noexcept {
+    if (!text.starts_with(u' ')) return text;
     text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
     return text;
 }
 
-TextView TrimmedEnd(TextView text) noexcept { return text.substr(0, text.find_last_not_of(u' ') + 1); }
+TextView TrimmedEnd(TextView text) noexcept {
+    if (!text.ends_with(u' ')) return text;
+    return text.substr(0, text.find_last_not_of(u' ') + 1);
+}
 
 TextView Trimmed(TextView text) noexcept { return TrimmedEnd(TrimmedStart(text)); }
 
