@@ -110,9 +110,10 @@ TEST_F(Document, AHandlerMayReleaseTheDefinitionDuringRead) {
         seen += rdd->TemplateName + rdd->FileName + u";";
         if (!rdd->FileName.empty()) rdd = nullptr;
     });
+    rdd->AfterRead.Connect([&] { seen += u"again;"; });
     EXPECT_FALSE(rdd->Read(u"/none.rdd"));
     EXPECT_TRUE(rdd->Read(u"/exam.rdd"));
-    EXPECT_EQ(seen, u"kept;/exam.rdd;");
+    EXPECT_EQ(seen, u"kept;again;/exam.rdd;again;");
     EXPECT_FALSE(rdd);
 }
 

@@ -61,7 +61,7 @@ TEST_F(GradeScales, TheFirstRowThatFitsWinsAndTheLastTakesTheRest) {
 TEST_F(GradeScales, RowsAreAddedInPairs) {
     const auto scale = Scale(u"A| B", u"90|80 ");
     EXPECT_FALSE(scale->AddDelimitedStrings(u"C", u"1|0", u"|"));
-    EXPECT_FALSE(scale->AddArrays(Array<Text>({u"C", u"D"}, 0), Array<Text>({u"0"}, 1)));
+    EXPECT_FALSE(scale->AddArrays(Array<Text>({u"C"}, 1), Array<Text>({u"1", u"0"}, 0)));
     EXPECT_FALSE(scale->AddArrays(Array<Text>(), Array<Text>()));
     EXPECT_TRUE(scale->AddDelimitedStrings(u"", u""));
     EXPECT_TRUE(scale->AddArrays(Array<Text>({u"C"}, 5), Array<Text>({u"0"}, 5)));
