@@ -12,7 +12,7 @@ namespace {
 
 struct Numbered {
     double number;
-    Text text;
+    std::size_t place; ///< where its text stands
 };
 
 /// Quicksort with the middle element as pivot. This is meant: the pivot and the swap share one variable, so
@@ -73,14 +73,15 @@ bool QuickSortNumericStringArray(Array<Text>& sArray, std::int32_t lFirst, std::
         Text* const end = &sArray.At(lLast) + 1;
         std::vector<Numbered> items;
         items.reserve(static_cast<std::size_t>(end - first));
-        for (Text* text = first; text != end; ++text)
-            items.push_back({TextToDouble(*text), std::move(*text)});
+        for (Text* text = first; text != end; ++text) items.push_back({TextToDouble(*text), items.size()});
+        std::vector<Text> sorted(items.size()); // made before a text is moved, so that none gets lost
         if (bDescending)
             SortByNumber(items, std::greater<>());
         else
             SortByNumber(items, std::less<>());
-        std::transform(items.begin(), items.end(), first,
-                       [](Numbered& item) { return std::move(item.text); });
+        std::transform(items.begin(), items.end(), sorted.begin(),
+                       [first](const Numbered& item) { return std::move(first[item.place]); });
+        std::move(sorted.begin(), sorted.end(), first);
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.QuickSortNumericStringArray"); }
     return result;

@@ -42,15 +42,16 @@ bool clsHTDRDDStrings::AddDelimitedString(TextView Items, TextView sDelimiter) n
     bool result = false;
     try {
         if (Items.empty()) return false;
-        Text held; // the text may be an item of this list
+        Text items; // either may be an item of this list
+        const Text delimiter(sDelimiter);
         if (Count() > 0) {
-            held = Items;
-            Items = held;
+            items = Items;
+            Items = items;
         }
         std::size_t pieces = 0;
-        EachPiece(Items, sDelimiter, [&](TextView) { ++pieces; });
+        EachPiece(Items, delimiter, [&](TextView) { ++pieces; });
         mItems.Reserve(pieces);
-        EachPiece(Items, sDelimiter, [&](TextView piece) { AddByOwnText(piece); });
+        EachPiece(Items, delimiter, [&](TextView piece) { AddByOwnText(piece); });
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AddDelimitedString"); }
     return result;

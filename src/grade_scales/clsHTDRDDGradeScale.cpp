@@ -50,12 +50,14 @@ Ref<clsHTDRDDGradeScale> clsHTDRDDGradeScale::Copy() const {
 Text clsHTDRDDGradeScale::CalculateGrade(double dPercentScore, std::int16_t iDecimalPlaces) const noexcept {
     Text result;
     try {
+        if (iDecimalPlaces < 0) throw Failure(Err::Argument, Where::current());
+        if (Count() == 0) return result;
         // Through a text and back, so that the score is the very number that a start value of its digits is.
         const double score = basPublic::TextToDouble(FixedText(dPercentScore, iDecimalPlaces));
         const std::int32_t row = FirstPosition([score](const clsHTDRDDGradeScaleItem& item) {
             return basPublic::TextToDouble(item.StartValue) <= score;
         });
-        if (Count() > 0) result = mItems.Item(row > 0 ? row : Count())->Grade;
+        result = mItems.Item(row > 0 ? row : Count())->Grade;
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDGradeScale.CalculateGrade"); }
     return result;
 }
