@@ -4,14 +4,25 @@
 #include "platform/number.h"
 #include "platform/region.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
 namespace htdrdd::test {
 
-/// The fields of a row: "text -> result -> another".
-inline std::vector<Text> Fields(TextView row) { return Split(row, u" -> ").Items(); }
+using Fields = std::vector<Text>;
+
+/// Checks rows such as "text -> another -> result": `tell` makes the result of the fields in front of it.
+template <class Tell>
+void Check(std::initializer_list<TextView> rows, Tell tell) {
+    for (const TextView row : rows) {
+        const Fields fields = Split(row, u" -> ").Items();
+        EXPECT_EQ(tell(fields), fields.back()) << ToUtf8(row);
+    }
+}
 
 /// Number of the failure that a statement ends in, 0 where it doesn't fail.
 template <class Statement>
@@ -30,7 +41,6 @@ Text Outcome(Statement statement) {
     } catch (const Failure& failure) { return u"failure " + DecimalText(failure.Number()); }
 }
 
-inline Region PointRegion() { return {}; }
 inline Region CommaRegion() { return {u',', u'.', u"€", "%d.%m.%Y %H:%M:%S"}; }
 
 /// This thread's region for as long as it lives.
@@ -44,5 +54,16 @@ public:
 private:
     Region before_;
 };
+
+/// What a statement tells where the decimal mark is a point, and where it is a comma: "1.5 / 15".
+template <class Statement>
+Text InBothRegions(Statement statement) {
+    Text both;
+    for (const Region& region : {Region(), CommaRegion()}) {
+        const ScopedRegion scope(region);
+        both += (both.empty() ? u"" : u" / ") + statement();
+    }
+    return both;
+}
 
 } // namespace htdrdd::test

@@ -1,4 +1,4 @@
-/// A file system in memory whose n-th operation fails.
+/// A file system in memory that fails where a test wants it to.
 #pragma once
 
 #include "platform/file_system.h"
@@ -19,8 +19,11 @@ public:
     Err failure = Err::PermissionDenied;
     /// How many operations there were.
     int operations = 0;
+    int refusedCopies = 0; ///< how many of the next ones fail
+    int refusedDeletions = 0;
+    int takenNames = 0; ///< how many of the next names are there, whatever they are
 
-    bool FileExists(TextView path) override { return files.count(Text(path)) != 0; }
+    bool FileExists(TextView path) override { return takenNames-- > 0 || files.count(Text(path)) != 0; }
     bool FolderExists(TextView path) override { return folders.count(Text(path)) != 0; }
     Bytes Read(TextView path, std::size_t limit, Where at) override {
         Count(at);
@@ -34,11 +37,11 @@ public:
         return std::make_unique<Writer>(*this, files[Text(path)]);
     }
     void CopyFile(TextView from, TextView to, Where at) override {
-        Count(at);
+        Count(at, refusedCopies-- > 0);
         files[Text(to)] = Find(from, at);
     }
     void DeleteFile(TextView path, Where at) override {
-        Count(at);
+        Count(at, refusedDeletions-- > 0);
         Find(path, at);
         files.erase(Text(path));
     }
@@ -62,8 +65,8 @@ private:
         std::string& content_;
     };
 
-    void Count(Where at) {
-        if (++operations == failingOperation) throw Failure(failure, at);
+    void Count(Where at, bool refused = false) {
+        if (++operations == failingOperation || refused) throw Failure(failure, at);
     }
     std::string& Find(TextView path, Where at) {
         const auto file = files.find(Text(path));

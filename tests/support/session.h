@@ -16,24 +16,27 @@ namespace htdrdd::test {
 
 using Said = std::vector<std::string>;
 
-/// Keeps what it was told, one line each: "13 Type mismatch @ clsHTDRDD.Read" for a failure, with the caption
-/// and the kind in front where there are any, and "Invalid File: text [152 &OK]" for a message. Lines of
-/// source are left out.
+/// How the complaints of common failures start.
+inline const std::string kArgument = "5 Invalid procedure call or argument @ ";
+inline const std::string kOverflow = "6 Overflow @ ";
+inline const std::string kSubscript = "9 Subscript out of range @ ";
+inline const std::string kTypeMismatch = "13 Type mismatch @ ";
+inline const std::string kNotSet = "91 Object variable or With block variable not set @ ";
+inline const std::string kKeyInUse =
+    "457 This key is already associated with an element of this collection @ ";
+
+/// Keeps what it was told, one line each: "13 Type mismatch @ clsHTDRDD.Read" for a failure, without the line
+/// of source, and "Invalid File: text [152 &OK]" for a message.
 class RecordingHost final : public ErrorHost {
 public:
     Said said;
     std::int32_t answer = 1;
     std::function<void()> whenHeard; ///< called at each complaint and message
     std::int16_t RaiseError(const HostComplaint& complaint) override {
-        std::string line;
-        if (Silent()) line += "(silent) ";
         if (whenHeard) whenHeard();
-        if (!complaint.sTitle.empty()) line += ToUtf8(complaint.sTitle) + ": ";
-        if (complaint.lKind != 0) line += "kind " + std::to_string(complaint.lKind) + ", ";
-        if (!complaint.vError.IsMissing()) line += ToUtf8(complaint.vError.ToText()) + " ";
         const std::string location = ToUtf8(complaint.sLocation);
-        said.push_back(line + ToUtf8(complaint.sDescription) + " @ " +
-                       location.substr(0, location.find("; Line")));
+        said.push_back((Silent() ? "(silent) " : "") + ToUtf8(complaint.vError.ToText()) + " " +
+                       ToUtf8(complaint.sDescription) + " @ " + location.substr(0, location.find("; Line")));
         return 0;
     }
     std::int32_t MsgBoxEx(const HostMessage& message) override {

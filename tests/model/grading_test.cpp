@@ -1,0 +1,145 @@
+#include "model/basPublicAnswers.h"
+#include "support/cases.h"
+#include "support/session.h"
+
+#include <limits>
+
+namespace htdrdd::test {
+namespace {
+
+using namespace basPublic;
+
+class Answers : public Session {
+protected:
+    Answers() {
+        question->AnswerValues->AddDelimitedString(u"A,B,C,D", u",");
+        question->AnswerCodes->AddDelimitedString(u"1,2,3,4", u",");
+    }
+    void Answer(TextView answer, std::int32_t key = 1) { AssignCorrectAnswer(*question, answer, key, u"1"); }
+    Text Code(TextView answer) {
+        question->CorrectAnswers = Make<clsHTDRDDStrings>();
+        question->CorrectAnswers->Add(answer);
+        return CorrectAnswerToCode(*question, 1);
+    }
+    /// Answers, codes and points of all keys, and what the first key sets.
+    Text Keys() const {
+        return question->CorrectAnswers->AsString(u"|") + u" / " + question->CorrectCodes->AsString(u"|") +
+               u" / " + question->CorrectAnswerPoints->AsString(u"|") + u" / " +
+               DecimalText(question->NumCorrect) +
+               (question->MultiplesPermitted == HTDMultiplesPermittedAll ? u" several" : u"");
+    }
+    Ref<clsHTDRDDQuestion> question = Make<clsHTDRDDQuestion>();
+};
+
+/// Answer, codes as they are kept and as they are filed.
+TEST_F(Answers, BecomeCodesInTheOrderOfTheirText) {
+    Check({u"B -> 2 / 2", u"(B,D) -> (2,4) / (2,4)", u"d,b -> (4,2) / (4,2)", u"B,X -> 2 / 2",
+           u"B,B -> (2,2) / (2,2)", u"B, D -> 2 / 2", u"X -> -2 / ", u" -> -2 / ", u"(B -> 2 / ",
+           u"( -> -2 / ", u"() -> -2 / ", u"((B,C)) -> (2,3) / ", u"(B),(C) -> (2,3) / ",
+           u"A,,C -> (1,3) / (1,3)"},
+          [&](const Fields& row) {
+              const Text kept = Code(row[0]);
+              return kept + u" / " + CorrectAnswerToIndices(*question, 1);
+          });
+    EXPECT_EQ(CorrectAnswerToIndices(*question, 2) + CorrectAnswerToCode(*question, 2), u"");
+    question->AnswerValues->RemoveAll();
+    EXPECT_EQ(Code(u"(7)"), u"(7)");
+    EXPECT_EQ(CorrectAnswerToIndices(*question, 1), u"");
+}
+
+TEST_F(Answers, KeysAreSetInAnyOrder) {
+    AssignCorrectAnswer(*question, u"b,c", 3, u"2");
+    EXPECT_EQ(Keys(), u"||b,c / ||(2,3) / ||2 / 0");
+    Answer(u"A,B");
+    AssignCorrectAnswer(*question, question->CorrectAnswers->Item(1), 3,
+                        question->CorrectAnswerPoints->Item(1)); // the text of another key
+    question->CorrectAnd = true;
+    Answer(u"C,D", 2);
+    Answer(u"A,");
+    EXPECT_EQ(Keys(), u"A,|C,D|A,B / 1|(3,4)|(1,2) / 1|1|1 / 1");
+    Answer(u"A,B");
+    EXPECT_EQ(Keys(), u"A,B|C,D|A,B / (1,2)|(3,4)|(1,2) / 1|1|1 / 2 several");
+    Answer(u"");
+    EXPECT_EQ(Keys(), u"|C,D|A,B / -2|(3,4)|(1,2) / 1|1|1 / 0 several") << "nothing turns it off";
+}
+
+TEST_F(Answers, HaveValuesInsteadAndPointsOfSubjectiveQuestions) {
+    const ScopedRegion region(CommaRegion());
+    question->BlankValue = -2.5;
+    question->MultipleText = u"Blanks"; // this is meant: the tests for blank and multiple are turned round
+    Check({u"X -> -2.5", u"BLANKS -> -2.5", u"(blank) -> -3"},
+          [&](const Fields& row) { return Code(row[0]); });
+    question->MultipleText = question->BlankText;
+    EXPECT_EQ(Code(u"BLANK"), u"-1");
+    question->SubjectiveField = true;
+    Answer(u"2,50");
+    EXPECT_EQ(question->SubjectivePoints, 2.5);
+    EXPECT_EQ(Keys(), u"2.5 / -2.5 / 1 / 1");
+    Answer(u"abc");
+    EXPECT_EQ(Keys(), u"0 / -2.5 / 1 / 1");
+}
+
+TEST_F(Answers, AFailureLeavesTheStepsBeforeIt) {
+    question->CorrectCodes = nullptr;
+    Answer(u"A", 2);
+    EXPECT_EQ(question->CorrectAnswers->Count() - question->CorrectAnswerPoints->Count(), 2);
+    question->AnswerValues = nullptr;
+    EXPECT_EQ(CorrectAnswerToCode(*question, 1), u"");
+    EXPECT_EQ(Heard(),
+              (Said{kNotSet + "basPublic.AssignCorrectAnswer", kNotSet + "basPublic.CorrectAnswerToCode"}));
+}
+
+class GradeScales : public Session {
+protected:
+    static Ref<clsHTDRDDGradeScale> Scale(TextView grades, TextView startValues) {
+        auto scale = Make<clsHTDRDDGradeScale>();
+        EXPECT_TRUE(scale->AddDelimitedStrings(grades, startValues, u"|"));
+        return scale;
+    }
+};
+
+/// Score, decimal places, grade.
+TEST_F(GradeScales, AScoreIsRoundedBeforeItIsCompared) {
+    const auto scale = Scale(u"A|B|C|F", u"90.0|80%| 70 |x");
+    Check({u"90 -> 3 -> A / A", u"89.9995 -> 3 -> A / A", u"89.9994 -> 3 -> B / B", u"80 -> 3 -> B / B",
+           u"0 -> 3 -> F / F", u"-5 -> 3 -> F / F", u"89.5 -> 0 -> A / A", u"89.4 -> 0 -> B / B",
+           u"79.95 -> 1 -> B / B", u"1e300 -> 3 -> A / A"},
+          [&](const Fields& row) {
+              const auto places = Rounded<std::int16_t>(LeadingNumber(row[1]));
+              return InBothRegions([&] { return scale->CalculateGrade(LeadingNumber(row[0]), places); });
+          });
+}
+
+TEST_F(GradeScales, TheFirstRowThatFitsWinsAndTheLastTakesTheRest) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    const auto empty = Make<clsHTDRDDGradeScale>();
+    EXPECT_EQ(Scale(u"F|A", u"0|90")->CalculateGrade(95), u"F");
+    EXPECT_EQ(Scale(u"A|B", u"90|80")->CalculateGrade(10), u"B");
+    EXPECT_EQ(empty->CalculateGrade(50) + empty->CalculateGrade(kInfinity), u"");
+    EXPECT_EQ(Heard(), Said());
+    EXPECT_EQ(Scale(u"A", u"0")->CalculateGrade(50, -1) + empty->CalculateGrade(50, -1), u"");
+    EXPECT_EQ(Scale(u"A", u"0")->CalculateGrade(kInfinity), u"");
+    const std::string member = "clsHTDRDDGradeScale.CalculateGrade";
+    EXPECT_EQ(Heard(), (Said{kArgument + member, kArgument + member, kOverflow + member}));
+}
+
+TEST_F(GradeScales, RowsAreAddedInPairsAndCopied) {
+    const auto scale = Scale(u"A| B", u"90|80 ");
+    EXPECT_FALSE(scale->AddDelimitedStrings(u"C", u"1|0", u"|") ||
+                 scale->AddArrays(Array<Text>({u"C"}, 1), Array<Text>({u"1", u"0"}, 0)) ||
+                 scale->AddArrays(Array<Text>(), Array<Text>()));
+    EXPECT_TRUE(scale->AddDelimitedStrings(u"", u""));
+    EXPECT_TRUE(scale->AddArrays(Array<Text>({u"C"}, 5), Array<Text>({u"0"}, 5)));
+    EXPECT_EQ(scale->AsString() + u"; " + scale->AsString(true, u"|"), u"A\t B\tC; 90|80 |0");
+    EXPECT_EQ(scale->AsArray(true, 0).At(2), u"0");
+    scale->Add(Make<clsHTDRDDGradeScaleItem>(), u"key");
+    const auto copy = scale->Copy();
+    copy->Item(4)->Grade = u"E";
+    EXPECT_EQ(copy->AsString() + scale->Item(u"KEY")->Grade, u"A\t B\tC\tE") << "rows of its own";
+    EXPECT_FALSE(copy->Exists(u"key"));
+    scale->Add(nullptr);
+    EXPECT_EQ(FailureOf([&] { return scale->Copy(); }), 91);
+}
+
+} // namespace
+} // namespace htdrdd::test
