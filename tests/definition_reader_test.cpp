@@ -354,7 +354,11 @@ TEST_F(DefinitionReader, LetsTheHostReplaceWhatIsBeingRead) {
               (Said{deciphering, deciphering, deciphering,
                     CountMessage("The NumSubtests parameter did not match the number of subtests found.")}));
 
-    // The last reference goes while Clear reports.
+    // The last reference goes in AfterRead, and then while Clear reports.
+    host->whenHeard = nullptr;
+    rdd->AfterRead.Connect([&] { rdd = Make<clsHTDRDD>(); });
+    EXPECT_TRUE(Read(u""));
+    EXPECT_EQ(rdd->FileName, u"");
     rdd->ScaledScore->DB = nullptr;
     host->whenHeard = [&] { rdd = nullptr; };
     files.files[u"/exam.rdd"] = test::Unicode(text);

@@ -78,6 +78,22 @@ TEST_F(ModelLists, WalksMayDemandMoreThanCountsDo) {
     EXPECT_EQ(Heard().size(), 3U);
 }
 
+TEST_F(ModelLists, ASequenceKeepsPlacesAndItsArrayABound) {
+    const auto sequence = Make<clsHTDRDDSequence>();
+    EXPECT_FALSE(sequence->AsArray().HasStorage());
+    sequence->AddDelimitedString(u"3\t 1x\tx");
+    sequence->Item(2, 7);
+    sequence->Item(4, 9); // nothing is there
+    sequence->Add(5, {}, 1);
+    EXPECT_EQ(sequence->AsString(), u"5\t3\t7\t0");
+    EXPECT_EQ(sequence->Item(5), 0);
+    const auto array = sequence->AsArray(-1);
+    EXPECT_EQ(array.UpperBound(), 2);
+    EXPECT_EQ(array.At(0), 3);
+    sequence->AddArray(array);
+    EXPECT_EQ(sequence->Count(), 8);
+}
+
 /// Number of sequences, version identifiers, position of the question, and what follows from them.
 TEST_F(ModelLists, TheSchemeOfVersionsFollowsFromWhatIsFilledIn) {
     Check({u"0 ->  -> 0 -> 0", u"0 -> A,B -> 3 -> 1", u"1 -> A,B -> 3 -> 1", u"0 -> A -> 3 -> 0",
