@@ -1,6 +1,9 @@
 #include "foundation/basPublicCipher.h"
 #include "platform/number.h"
+#include "platform/process.h"
 #include "support/session.h"
+
+#include <gmock/gmock.h>
 
 #include <csignal>
 #include <cstdlib>
@@ -325,13 +328,9 @@ TEST_F(DefinitionReader, ReportsFailuresOfTheFileAndWithoutHost) {
     // A stop message without a host is a call of nothing; what is logged is that failure.
     rdd->SetError(nullptr);
     EXPECT_FALSE(Read(u"[Report]\n\n"));
-    ASSERT_EQ(files.files.size(), 2U);
-    const std::string log = files.files.begin()->second;
-    EXPECT_NE(files.files.rbegin()->second.find(
-                  "Error# 91: Object variable or With block variable not set, Location: "
-                  "basTemplate.VB_RT_read_report; Line: "),
-              std::string::npos)
-        << log;
+    EXPECT_THAT(files.files[BuildPath(ModuleFolder(), u"Error.log")],
+                ::testing::HasSubstr("Error# 91: Object variable or With block variable not set, Location: "
+                                     "basTemplate.VB_RT_read_report; Line: "));
     rdd->Versions = nullptr;
     rdd->SetError(host);
     EXPECT_FALSE(Report(u""));
