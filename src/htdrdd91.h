@@ -1,7 +1,13 @@
-/// All that a C++ host needs: the document and everything it owns, and the base class of host objects.
+/// All that a C++ host needs: the document and everything it owns, the base class of host objects, and the
+/// walks over the rules for hosts that want more than the first finding.
 #pragma once
 
 #include "foundation/ErrorHost.h"
 #include "foundation/version.h"
+#include "grade_scales/grade_scale_rules.h"
 #include "model/basPublicAnswers.h"
 #include "model/clsHTDRDD.h"
+#include "scaled_scores/scaled_score_rules.h"
+#include "validation/key_rules.h"
+#include "validation/subtest_rules.h"
+#include "validation/version_rules.h"

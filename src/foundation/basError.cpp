@@ -74,10 +74,10 @@ void ReportFailure(TextView sLocation) noexcept {
                            .sLocation = sLocation});
 }
 
-void ShowStopMessage(TextView sCaption, TextView sMessage, Where at) {
+void ShowStopMessage(TextView sCaption, TextView sMessage, const Variant& vOwner, Where at) {
     const Ref<LateBound> host = ThisThread().errorHost;
     if (!host) throw Failure(Err::NotSet, at);
-    std::array<Variant, 5> arguments{sCaption, sMessage, kStopFlags, Variant(), u"&OK"};
+    std::array<Variant, 5> arguments{sCaption, sMessage, kStopFlags, vOwner, u"&OK"};
     host->Call(u"MsgBoxEx", arguments);
 }
 

@@ -39,8 +39,9 @@ std::int16_t ReportError(const ErrorReport& report) noexcept;
 /// Reports the failure being handled, with its number, text and line. Call it in a handler only.
 void ReportFailure(TextView sLocation) noexcept;
 
-/// Shows a stop message with the one button "&OK" through the host's MsgBoxEx. Fails with 91 without a host,
-/// and as the host fails.
-void ShowStopMessage(TextView sCaption, TextView sMessage, Where at = Where::current());
+/// Shows a stop message with the one button "&OK" through the host's MsgBoxEx, which gets the owner as it is.
+/// Fails with 91 without a host, and as the host fails.
+void ShowStopMessage(TextView sCaption, TextView sMessage, const Variant& vOwner = {},
+                     Where at = Where::current());
 
 } // namespace htdrdd

@@ -33,6 +33,12 @@ public:
     /// A new scale with rows of its own, without keys.
     [[nodiscard]] Ref<clsHTDRDDGradeScale> Copy() const;
 
+    /// Whether each row has a grade, the start values descend, and the last one is 0. False for the first
+    /// broken rule, with a complaint, which bVerbose false keeps from the user; lInvalidItem is then the row,
+    /// of two that don't descend the first, and keeps its value where there are no rows at all. False after a
+    /// failure, which is reported.
+    bool Validate(bool bVerbose = true, std::int32_t* lInvalidItem = nullptr) const noexcept;
+
     /// The grade of the first row whose start value isn't above the score, which is rounded to iDecimalPlaces
     /// first; the last row's where there is none, and an empty text without rows. A failure, such as negative
     /// places, is reported and gives an empty text.

@@ -130,4 +130,9 @@ Ref<SharedCollection<std::int32_t>> clsHTDRDD::GetSubtestQuestions(const Variant
     return result;
 }
 
+Variant clsHTDRDD::Get(TextView name) {
+    if (SameText(name, u"Subtests")) return Subtests;
+    return LateBound::Get(name);
+}
+
 } // namespace htdrdd

@@ -23,7 +23,7 @@ enum HTDReportType : std::int32_t {
 
 /// One report definition: the answer key of a test or a survey. `Make<clsHTDRDD>()` gives an empty one.
 /// Object members are shared references: assigning one replaces it, nothing is copied or checked.
-class clsHTDRDD final : public Object {
+class clsHTDRDD final : public LateBound {
 public:
     /// Makes the members. A failure is reported.
     clsHTDRDD() noexcept;
@@ -75,11 +75,39 @@ public:
     [[nodiscard]] Ref<SharedCollection<std::int32_t>>
     GetSubtestQuestions(const Variant& vSubtest) const noexcept;
 
+    /// Whether the test versions can be graded together: identifiers that differ, and what scrambled or
+    /// standard versions demand. A type that is left out or empty becomes Versions->VType(); a type that is
+    /// given counts instead, as a number. False for the first broken rule, with a complaint, which bVerbose
+    /// false keeps from the user; lInvalidVersion is written only by the rules that speak of one version.
+    /// False after a failure, which is reported.
+    bool ValidateVersions(bool bVerbose = true, std::int32_t* lInvalidVersion = nullptr,
+                          Variant* eVersionType = nullptr) const noexcept;
+
+    /// Whether each learning objective, the overall one too, has a question that counts for this type of
+    /// report: in a survey a tallied one, else a graded one, in a test also a subjective one. Only a false
+    /// result writes lInvalidSubtest, with the position of the first one that has none; nobody is told.
+    /// False after a failure, which is reported.
+    bool ValidateSubtests(std::int32_t* lInvalidSubtest = nullptr) const noexcept;
+
+    /// Whether the key can be graded with. False for the first broken rule, with a complaint, which bVerbose
+    /// false keeps from the user; the positions of the question, of the key and of the learning objective
+    /// are written where the rule speaks of them. False after a failure, which is reported.
+    bool ValidateKey(bool bVerbose = true, std::int32_t* lInvalidQuestion = nullptr,
+                     std::int32_t* lInvalidKey = nullptr,
+                     std::int32_t* lInvalidSubtest = nullptr) const noexcept;
+
     /// Sees to it that there is an overall learning objective; where one is made, questions without
     /// memberships join it. False after a failure, which is reported.
     bool AddDefaultSubtest() noexcept;
 
     bool CustomHeader = false; ///< whether the host uses the header settings
+
+    /// Whether the scaled score of the learning objective at a position can be used, or with -1 that of any.
+    /// False in silence where there is none. False after a failure, which is reported.
+    bool ScaledScoreIsValid(std::int32_t lSubtestIndex = -1) noexcept;
+
+    /// Bound by name: Subtests.
+    Variant Get(TextView name) override;
 
     Event AfterRead; ///< raised at the end of every Read
 

@@ -20,4 +20,10 @@ std::int32_t clsHTDRDDSubtests::Find(TextView sSubtest) const noexcept {
     return result;
 }
 
+Variant clsHTDRDDSubtests::Call(TextView name, std::span<Variant> arguments) {
+    if (!SameText(name, u"Find")) return LateBound::Call(name, arguments);
+    if (arguments.size() != 1) throw Failure(Err::ArgumentCount, Where::current());
+    return Find(arguments[0].ToText());
+}
+
 } // namespace htdrdd

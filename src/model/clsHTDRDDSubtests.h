@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/clsHTDRDDSubtest.h"
+#include "platform/late_bound.h"
 #include "platform/object_list.h"
 
 #include <cstdint>
@@ -10,7 +11,7 @@ namespace htdrdd {
 
 /// The subtests; position 1 is the overall one. Removing one doesn't touch the memberships in the questions.
 /// A bad index fails to the caller.
-class clsHTDRDDSubtests final : public ObjectList<clsHTDRDDSubtest> {
+class clsHTDRDDSubtests final : public ObjectList<clsHTDRDDSubtest, LateBound> {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDSubtests"; }
 
@@ -21,6 +22,9 @@ public:
 
     /// Position of the first subtest of a name, case counting; 0 if there is none. A failure is reported.
     [[nodiscard]] std::int32_t Find(TextView sSubtest) const noexcept;
+
+    /// Bound by name: Find.
+    Variant Call(TextView name, std::span<Variant> arguments) override;
 };
 
 } // namespace htdrdd

@@ -6,7 +6,9 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -138,11 +140,19 @@ public:
     /// The items in order, for range-based loops. A change of the collection ends what an iterator refers to.
     class Iterator {
     public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = T;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const T*;
+        using reference = const T&;
+        Iterator() = default;
         const T& operator*() const noexcept { return place_->item; }
+        const T* operator->() const noexcept { return &place_->item; }
         Iterator& operator++() noexcept {
             ++place_;
             return *this;
         }
+        Iterator operator++(int) noexcept { return Iterator(place_++); }
         friend bool operator==(const Iterator&, const Iterator&) = default;
 
     private:

@@ -20,4 +20,8 @@ public:
     virtual Variant Call(TextView name, std::span<Variant> arguments);
 };
 
+/// The object that a value refers to, to be bound by name. Fails with 91 where the value refers to nothing,
+/// with 13 where it is no reference, and with 438 where its object has no members that are bound by name.
+[[nodiscard]] Ref<LateBound> BoundObject(const Variant& value, Where at = Where::current());
+
 } // namespace htdrdd

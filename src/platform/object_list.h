@@ -11,9 +11,9 @@
 namespace htdrdd {
 
 /// An ordered list of shared objects; nothing is copied on entry or on reading. Positions count from 1, an
-/// Index is a position or a key.
-template <class T>
-class ObjectList : public Object {
+/// Index is a position or a key. The base is LateBound for lists that are bound by name inside the library.
+template <class T, class Base = Object>
+class ObjectList : public Base {
 public:
     [[nodiscard]] std::int32_t Count() const noexcept { return mItems.Count(); }
 

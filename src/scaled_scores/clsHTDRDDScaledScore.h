@@ -3,6 +3,7 @@
 
 #include "platform/object.h"
 #include "platform/text.h"
+#include "platform/variant.h"
 #include "scaled_scores/clsHTDRDDScaledScoreDB.h"
 
 #include <cstdint>
@@ -48,6 +49,12 @@ public:
     /// A new record with a DB of its own. Password is copied without its outer blanks. Empty after a failure,
     /// which is reported.
     [[nodiscard]] Ref<clsHTDRDDScaledScore> Copy() const noexcept;
+
+    /// Whether the record can be used for a lookup. Learning objectives that it names are searched in oRDD,
+    /// which is bound by name as `oRDD.Subtests.Find(name)` and touched for nothing else. False for the first
+    /// broken rule, which is shown to the user only if bVerbose is true. A failure is reported and gives
+    /// what was found up to then: true, where only the search failed.
+    bool IsValid(const Variant& oRDD, bool bForLearningObjective, bool bVerbose = false) const noexcept;
 };
 
 } // namespace htdrdd

@@ -1,0 +1,200 @@
+#include "validation/key_rules.h"
+
+#include "foundation/basError.h"
+
+#include <array>
+
+namespace htdrdd {
+namespace {
+
+enum KeyRule : std::size_t {
+    NoGradedQuestions,
+    PartialCreditWithVersions,
+    NumberOfMemberships,
+    NumberOfCorrectAnswers,
+    NoCorrectAnswer,
+    NoPartialPoints,
+    TooFewPartialPoints,
+    EmptyPartialPoints,
+    GradedAndSubjective,
+    GradedAndIdentifier,
+    PartialCreditForOneAnswer,
+    SubjectiveAndIdentifier,
+    SubjectiveWithPartialCredit,
+    NotAllInOverall,
+    EmptyObjective,
+    OnlyExtraCredit,
+    KeyRuleCount
+};
+
+constexpr TextView kCaption = u"Invalid Answer Key";
+constexpr TextView kQuestion = u"Question: ";
+constexpr TextView kObjective = u"Learning Objective: ";
+constexpr TextView kPointsForEachAnswer =
+    u"One or more graded questions with partial credit turned on do not have partial credit points defined "
+    u"for each correct answer. Please provide partial credit points for each correct answer for each "
+    u"question with partial credit defined.";
+
+constexpr std::array<Rule, KeyRuleCount> kKeyRules{{
+    {kCaption, u"The answer key does not contain any graded questions"},
+    {kCaption,
+     u"One or more graded questions allow partial credit; however, partial credit is not supported when "
+     u"using multiple standard test versions. Please discontinue use of partial credit or multiple standard "
+     u"answer keys.",
+     kQuestion},
+    {kCaption,
+     u"One or more graded questions do not have the appropriate number of learning objectives associations "
+     u"defined. Please provide the appropriate number of learning objectives associations for each question.",
+     kQuestion},
+    {kCaption,
+     u"One or more graded questions do not have the appropriate number of correct answers specified. Please "
+     u"provide the appropriate number of correct answers for each graded question.",
+     kQuestion},
+    {kCaption,
+     u"One or more graded questions do not have a correct answer specified. Please provide a correct answer "
+     u"for each graded question.",
+     kQuestion},
+    {kCaption,
+     u"One or more graded questions with partial credit turned on do not have partial credit points "
+     u"defined. Please provide partial credit points for each question with partial credit defined.",
+     kQuestion},
+    {kCaption, kPointsForEachAnswer, kQuestion},
+    {kCaption, kPointsForEachAnswer, kQuestion},
+    {kCaption,
+     u"One or more graded questions are also marked subjective questions. Please mark the question as "
+     u"either subjective or graded, but not both.",
+     kQuestion},
+    {kCaption,
+     u"One or more graded questions are also marked respondent identifiers. Please mark the question as "
+     u"either a respondent identifier or graded, but not both.",
+     kQuestion},
+    {kCaption,
+     u"One or more questions are marked as partial credit, but do not contain multiple correct or partially "
+     u"correct answers. Partial credit only applies to questions with more than one correct or partially "
+     u"correct answer.",
+     kQuestion},
+    {kCaption,
+     u"One or more questions are marked respondent identifiers and subjective questions. Please mark the "
+     u"question as either a respondent identifier or subjective, but not both.",
+     kQuestion},
+    {kCaption,
+     u"One or more questions are subjective and also marked as partial credit. Partial credit only applies "
+     u"to objective questions.",
+     kQuestion},
+    {kCaption,
+     u"The overall test learning objective is missing one or more test questions. The overall test learning "
+     u"objective must contain every question on the test."},
+    {kCaption, u"One or more learning objectives don't contain any questions.", kObjective},
+    {kCaption,
+     u"One or more learning objectives contain only extra credit questions. Learning objectives can contain "
+     u"extra credit questions, but they must also contain at least one question that is not marked as extra "
+     u"credit.",
+     kObjective},
+}};
+static_assert(!kKeyRules.back().message.empty());
+
+/// How many of the first `lNumber` pieces between commas there are, and whether one of these is empty.
+struct Pieces {
+    std::int32_t lFound = 0;
+    bool anyEmpty = false;
+};
+Pieces PointsOf(TextView text, std::int32_t lNumber) {
+    Pieces pieces;
+    EachPiece(text, u",", [&](TextView piece) {
+        if (pieces.lFound >= lNumber) return;
+        ++pieces.lFound;
+        if (piece.empty()) pieces.anyEmpty = true;
+    });
+    return pieces;
+}
+
+} // namespace
+
+void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
+    const FindingsOf ends(kKeyRules, found);
+    const auto& questions = oRDD.Questions;
+
+    if (questions->NextGraded(0) <= 0 && questions->NextSubjective(0) <= 0 && ends(NoGradedQuestions)) return;
+
+    const bool standardVersions = oRDD.Versions->VType() == HTDVersionTypeKey;
+    const std::int32_t keys = standardVersions ? oRDD.Versions->Answers->Count() : 1;
+    const std::int32_t partial = questions->NextPartialCredit(0);
+    if (keys > 1 && partial > 0 &&
+        ends(PartialCreditWithVersions, {.lQuestion = partial}, questions->Item(partial)->QuestionName))
+        return;
+
+    std::int32_t overall = 0;
+    for (std::int32_t l = 1; l <= questions->Count(); ++l) {
+        const auto question = questions->Item(l);
+        const auto flagged = [&](KeyRule rule, std::int32_t key = 0, Where at = Where::current()) {
+            return ends(rule, {.lQuestion = l, .lKey = key}, question->QuestionName, at);
+        };
+        const bool fits = question->Subtests->Count() == oRDD.Subtests->Count();
+        if (!fits && flagged(NumberOfMemberships)) return;
+        if (question->IncludeGrade) {
+            if (question->CorrectAnswers->Count() != keys && flagged(NumberOfCorrectAnswers)) return;
+            for (std::int32_t key = 1; key <= keys; ++key) {
+                if (question->CorrectAnswers->Item(key).empty() && flagged(NoCorrectAnswer, key)) return;
+                if (!question->PartialCredit) continue;
+                const Text& points = question->CorrectAnswerPoints->Item(key);
+                const Pieces pieces = PointsOf(points, question->NumCorrect);
+                if (points.empty()) {
+                    if (flagged(NoPartialPoints, key)) return;
+                } else if (pieces.lFound < question->NumCorrect) {
+                    if (flagged(TooFewPartialPoints, key)) return;
+                } else if (pieces.anyEmpty) {
+                    if (flagged(EmptyPartialPoints, key)) return;
+                }
+            }
+            if (question->SubjectiveField && flagged(GradedAndSubjective)) return;
+            if (question->IDField && flagged(GradedAndIdentifier)) return;
+            if (question->PartialCredit && question->NumCorrect <= 1 && flagged(PartialCreditForOneAnswer))
+                return;
+        } else if (question->SubjectiveField) {
+            if (question->IDField && flagged(SubjectiveAndIdentifier)) return;
+            if (question->PartialCredit && flagged(SubjectiveWithPartialCredit)) return;
+        }
+        if (fits && question->Subtests->Includes(1)) ++overall; // without learning objectives a failure
+    }
+
+    if (overall < questions->Count() && ends(NotAllInOverall)) return;
+
+    for (std::int32_t objective = 2; objective <= oRDD.Subtests->Count(); ++objective) {
+        std::int32_t members = 0;
+        std::int32_t extraCredit = 0;
+        for (std::int32_t l = 1; l <= questions->Count(); ++l) {
+            const auto question = questions->Item(l);
+            if (!question->Subtests->Exists(objective) || !question->Subtests->Includes(objective)) continue;
+            ++members;
+            if (question->ExtraCredit) ++extraCredit;
+        }
+        const auto flagged = [&](KeyRule rule, Where at = Where::current()) {
+            return ends(rule, {.lSubtest = objective}, oRDD.Subtests->Item(objective)->SubtestName, at);
+        };
+        if (members == 0) {
+            if (flagged(EmptyObjective)) return;
+        } else if (members == extraCredit) {
+            if (flagged(OnlyExtraCredit)) return;
+        }
+    }
+}
+
+bool clsHTDRDD::ValidateKey(bool bVerbose, std::int32_t* lInvalidQuestion, std::int32_t* lInvalidKey,
+                            std::int32_t* lInvalidSubtest) const noexcept {
+    constexpr TextView kLocation = u"HTDRdd91 - clsHTDRDD.ValidateKey";
+    bool result = false;
+    try {
+        const Ref<const clsHTDRDD> self(this); // a report may make the host release the document
+        const auto finding = FirstFinding([this](const FindingSink& found) { WalkKeyRules(*this, found); });
+        if (finding) {
+            ReportFinding(*finding, kLocation, bVerbose);
+            WriteOffender(lInvalidQuestion, finding->offender.lQuestion);
+            WriteOffender(lInvalidKey, finding->offender.lKey);
+            WriteOffender(lInvalidSubtest, finding->offender.lSubtest);
+        }
+        result = !finding;
+    } catch (...) { ReportFailure(kLocation); }
+    return result;
+}
+
+} // namespace htdrdd

@@ -1,0 +1,213 @@
+#include "validation/version_rules.h"
+
+#include "foundation/basError.h"
+#include "foundation/basPublicText.h"
+#include "platform/number.h"
+
+#include <algorithm>
+#include <array>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace htdrdd {
+namespace {
+
+enum VersionRule : std::size_t {
+    MissingIdentifier,
+    DuplicateIdentifier,
+    TooFewGraded,
+    DisparateChoices,
+    QuestionCount,
+    LearningObjectives,
+    NumberOfCorrectAnswers,
+    DisparateCorrectPoints,
+    DisparateIncorrectPoints,
+    DisparateNoResponsePoints,
+    DisparateCorrectAnd,
+    DisparateSubjective,
+    VersionRuleCount
+};
+
+constexpr TextView kUnique = u"All test versions must have a unique version ID.";
+constexpr TextView kVersion = u"Test Version: ";
+constexpr TextView kFlagged = u"Flagged Question: ";
+
+constexpr std::array<Rule, VersionRuleCount> kVersionRules{{
+    {u"Missing Version ID", kUnique, u"Please select an answer to identify test version (",
+     u") or delete the version."},
+    {u"Duplicate Version ID", kUnique, u"Duplicate Versions: "},
+    {u"Graded Questions",
+     u"The test must contain at least two graded questions when defining multiple test versions."},
+    {u"Disparate Response Choices",
+     u"When scrambling test questions, all graded questions that occupy the same position must have the same "
+     u"response choices.",
+     kFlagged},
+    {u"Question Count", u"All test versions must contain the same number of questions.", kVersion},
+    {u"Learning Objectives", u"You cannot define learning objectives when using standard test versions."},
+    {u"Invalid Correct Answers",
+     u"All graded questions must have a correct answer defined for each version of the test.", kFlagged},
+    {u"Disparate Correct Points",
+     u"All graded questions must have the same number of correct points when defining multiple test "
+     u"versions.",
+     kFlagged},
+    {u"Disparate Incorrect Points",
+     u"All graded questions must have the same number of incorrect points when defining multiple test "
+     u"versions.",
+     kFlagged},
+    {u"Disparate No Response Points",
+     u"All graded questions must have the same number of no response points when defining multiple test "
+     u"versions.",
+     kFlagged},
+    {u"Correct Answer Determination",
+     u"All graded questions must use the same method for determining whether an answer is correct when "
+     u"defining multiple test versions.",
+     kFlagged},
+    {u"Subjective Questions", u"All test versions must contain the same set of subjective questions.",
+     kVersion},
+}};
+static_assert(!kVersionRules.back().message.empty());
+
+/// Whether all of `other` are among the choices, and as many. Case counts.
+bool SameChoices(const clsHTDRDDStrings& choices, const clsHTDRDDStrings& other) {
+    const std::int32_t count = choices.Count();
+    if (other.Count() != count) return false;
+    std::int32_t l = 1;
+    while (l <= count && choices.Item(l) == other.Item(l)) ++l;
+    if (l > count) return true;
+    const std::unordered_set<TextView> known(choices.begin(), choices.end());
+    while (l <= count && known.contains(other.Item(l))) ++l;
+    return l > count;
+}
+
+/// "(A,C)": all of these answers or any of them, as CorrectAnd says.
+bool IsMultiple(TextView answer) {
+    return answer.find(u',') != TextView::npos && answer.front() == u'(' && answer.back() == u')';
+}
+
+/// What a walk over one part of the rules gives back: whether the sink has enough.
+using Enough = bool;
+
+/// The identifiers of the versions, however these are graded. `position` is the version that was reached.
+Enough WalkIdentifiers(const clsHTDRDDStrings& answers, std::int32_t& position, const FindingsOf& ends) {
+    if (answers.Count() <= 1) return false;
+    std::unordered_map<Text, std::int32_t> versionOf;
+    for (position = 1; position <= answers.Count(); ++position) {
+        const Text& answer = answers.Item(position);
+        const Offender offender{.lVersion = position};
+        if (answer.empty()) {
+            if (ends(MissingIdentifier, offender, DecimalText(position))) return true;
+            continue;
+        }
+        const auto [first, isNew] = versionOf.try_emplace(UpperCased(answer), position);
+        if (isNew) continue;
+        const Text named =
+            DecimalText(first->second) + u", " + DecimalText(position) + u"\r\nDuplicate Answer: " + answer;
+        if (ends(DuplicateIdentifier, offender, named)) return true;
+    }
+    return false;
+}
+
+Enough WalkScrambled(const clsHTDRDD& oRDD, std::int32_t position, const FindingsOf& ends) {
+    const auto& questions = oRDD.Questions;
+    const auto sequences = oRDD.Versions->Sequences;
+    if (questions->NumGraded() < 2 && ends(TooFewGraded)) return true;
+
+    // This is meant: the walk starts behind the position that the version identifiers have reached.
+    while ((position = questions->NextGraded(position)) > 0) {
+        const auto question = questions->Item(position);
+        for (std::int32_t sequence = 2; sequence <= sequences->Count(); ++sequence) {
+            const auto other = questions->Item(sequences->Item(sequence)->Item(position));
+            if (!SameChoices(*question->AnswerValues, *other->AnswerValues) &&
+                ends(DisparateChoices, {.lQuestion = position}, question->QuestionName))
+                return true;
+        }
+    }
+    for (std::int32_t sequence = 1; sequence <= sequences->Count(); ++sequence)
+        if (sequences->Item(sequence)->Count() != questions->Count() &&
+            ends(QuestionCount, {.lVersion = sequence}, DecimalText(sequence)))
+            return true;
+    return false;
+}
+
+Enough WalkStandard(const clsHTDRDD& oRDD, const FindingsOf& ends) {
+    const auto& questions = oRDD.Questions;
+    const std::int32_t versions = oRDD.Versions->Answers->Count();
+    if (oRDD.Subtests->Count() > 1 && ends(LearningObjectives)) return true;
+
+    const auto standard = questions->Item(questions->NextGraded(0));
+    std::optional<bool> correctAnd; // of the first multiple answer
+    for (std::int32_t position = 0; (position = questions->NextGraded(position)) > 0;) {
+        const auto question = questions->Item(position);
+        const auto flagged = [&](VersionRule rule, Where at = Where::current()) {
+            return ends(rule, {.lQuestion = position}, question->QuestionName, at);
+        };
+        const auto& answers = question->CorrectAnswers;
+        if (versions > 1 && answers->Count() != versions && flagged(NumberOfCorrectAnswers)) return true;
+        if (question->CorrectPoints != standard->CorrectPoints && flagged(DisparateCorrectPoints))
+            return true;
+        if (question->IncorrectPoints != standard->IncorrectPoints && flagged(DisparateIncorrectPoints))
+            return true;
+        if (question->NoResponsePoints != standard->NoResponsePoints && flagged(DisparateNoResponsePoints))
+            return true;
+        if (!std::any_of(answers->begin(), answers->end(), IsMultiple)) continue;
+        if (!correctAnd) correctAnd = question->CorrectAnd;
+        if (question->CorrectAnd != correctAnd && flagged(DisparateCorrectAnd)) return true;
+    }
+
+    double reference = 0;
+    for (std::int32_t version = 1; version <= versions; ++version) {
+        double sum = 0;
+        for (std::int32_t position = 0; (position = questions->NextSubjective(position)) > 0;)
+            sum += basPublic::TextToDouble(questions->Item(position)->CorrectAnswers->Item(version));
+        if (version == 1) reference = sum;
+        if (sum != reference && ends(DisparateSubjective, {.lVersion = version}, DecimalText(version)))
+            return true;
+    }
+    return false;
+}
+
+/// A number as a type. One that stands for no type, such as 1.5, becomes a value that is none of them.
+HTDVersionType TypeOf(double number) {
+    for (const auto type : {HTDVersionTypeNone, HTDVersionTypeKey, HTDVersionTypeSequence})
+        if (number == static_cast<std::int32_t>(type)) return type;
+    return static_cast<HTDVersionType>(-1);
+}
+
+} // namespace
+
+void WalkVersionRules(const clsHTDRDD& oRDD, HTDVersionType eVersionType, const FindingSink& found) {
+    const FindingsOf ends(kVersionRules, found);
+    if (eVersionType == HTDVersionTypeNone) return;
+    std::int32_t position = 0;
+    if (WalkIdentifiers(*oRDD.Versions->Answers, position, ends)) return;
+    if (eVersionType == HTDVersionTypeSequence)
+        WalkScrambled(oRDD, position, ends);
+    else if (eVersionType == HTDVersionTypeKey)
+        WalkStandard(oRDD, ends);
+}
+
+bool clsHTDRDD::ValidateVersions(bool bVerbose, std::int32_t* lInvalidVersion,
+                                 Variant* eVersionType) const noexcept {
+    constexpr TextView kLocation = u"HTDRdd91 - clsHTDRDD.ValidateVersions";
+    bool result = false;
+    try {
+        const Ref<const clsHTDRDD> self(this); // a report may make the host release the document
+        Variant type;
+        if (eVersionType != nullptr) type = *eVersionType;
+        if (type.IsMissing() || type.Is() == Variant::Kind::Empty) {
+            type = Versions->VType();
+            if (eVersionType != nullptr) *eVersionType = type;
+        }
+        const HTDVersionType kind = TypeOf(type.ToDouble());
+        const auto finding =
+            FirstFinding([&](const FindingSink& found) { WalkVersionRules(*this, kind, found); });
+        if (finding) {
+            ReportFinding(*finding, kLocation, bVerbose);
+            WriteOffender(lInvalidVersion, finding->offender.lVersion);
+        }
+        result = !finding;
+    } catch (...) { ReportFailure(kLocation); }
+    return result;
+}
+
+} // namespace htdrdd
