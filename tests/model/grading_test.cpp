@@ -110,6 +110,35 @@ TEST_F(GradeScales, AScoreIsRoundedBeforeItIsCompared) {
           });
 }
 
+/// Grades, start values, what is said.
+TEST_F(GradeScales, AreHeldToTheirRulesInOrder) {
+    const std::string member = " @ clsHTDRDDGradeScale.Validate";
+    const std::string grade = "Grade Scale Contents: One or more grade scale values are missing." + member;
+    const std::string order =
+        "Grade Scale Order: The minimum scale values must be in descending order." + member;
+    const std::string last =
+        "Invalid Range: The grade scale's last item must have a minimum value of 0." + member;
+    const std::string rows = "Grade Scale Contents: Grade scales must contain at least one range." + member;
+    const auto judge = [&](TextView grades, TextView startValues) {
+        std::int32_t item = -1;
+        const bool valid = Scale(grades, startValues)->Validate(true, &item);
+        const Said heard = Heard();
+        EXPECT_EQ(heard.size(), valid ? 0U : 1U);
+        return (valid ? "" : heard[0]) + " " + std::to_string(item);
+    };
+    EXPECT_EQ(judge(u"A|B|F", u"90%|89.99| 0"), " -1");
+    EXPECT_EQ(judge(u"A|B|", u"90|91|1"), order + " 1");
+    EXPECT_EQ(judge(u"A||F", u"90|90|1"), grade + " 2");
+    EXPECT_EQ(judge(u"A|B|C", u"89,5|89.5|1"), order + " 1") << "a decimal comma ends the number";
+    EXPECT_EQ(judge(u"A|B|C", u"90|80|80"), order + " 2");
+    EXPECT_EQ(judge(u"A|F", u"90|.6"), last + " 2");
+    EXPECT_EQ(judge(u"A|F", u"90|.5") + judge(u"A|F", u"90|-.5"), " -1 -1") << "it rounds to the even number";
+    EXPECT_EQ(judge(u"", u""), rows + " -1");
+    EXPECT_EQ(judge(u"A", u"40000"), kOverflow + "clsHTDRDDGradeScale.Validate -1");
+    EXPECT_FALSE(Scale(u"A", u"1")->Validate(false));
+    EXPECT_EQ(Heard(), Said{"(silent) " + last});
+}
+
 TEST_F(GradeScales, TheFirstRowThatFitsWinsAndTheLastTakesTheRest) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const auto empty = Make<clsHTDRDDGradeScale>();

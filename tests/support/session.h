@@ -26,7 +26,8 @@ inline const std::string kKeyInUse =
     "457 This key is already associated with an element of this collection @ ";
 
 /// Keeps what it was told, one line each: "13 Type mismatch @ clsHTDRDD.Read" for a failure, without the line
-/// of source, and "Invalid File: text [152 &OK]" for a message.
+/// of source, "Caption: text @ clsHTDRDD.ValidateKey" for a broken rule, and "Invalid File: text [152 &OK]"
+/// for a message.
 class RecordingHost final : public ErrorHost {
 public:
     Said said;
@@ -35,8 +36,13 @@ public:
     std::int16_t RaiseError(const HostComplaint& complaint) override {
         if (whenHeard) whenHeard();
         const std::string location = ToUtf8(complaint.sLocation);
-        said.push_back((Silent() ? "(silent) " : "") + ToUtf8(complaint.vError.ToText()) + " " +
-                       ToUtf8(complaint.sDescription) + " @ " + location.substr(0, location.find("; Line")));
+        const std::size_t line = location.find("; Line: ");
+        const bool rule = complaint.vError.IsMissing();
+        EXPECT_EQ(complaint.lKind, rule ? 2 : 0);
+        EXPECT_TRUE(!rule || line != std::string::npos);
+        said.push_back((Silent() ? "(silent) " : "") +
+                       (rule ? ToUtf8(complaint.sTitle) + ":" : ToUtf8(complaint.vError.ToText())) + " " +
+                       ToUtf8(complaint.sDescription) + " @ " + location.substr(0, line));
         return 0;
     }
     std::int32_t MsgBoxEx(const HostMessage& message) override {

@@ -1,0 +1,242 @@
+#include "support/rules.h"
+#include "support/session.h"
+
+namespace htdrdd::test {
+namespace {
+
+/// Answers `Subtests` and then `Find` by itself, and as a host takes the arguments of MsgBoxEx.
+class ByName final : public LateBound {
+public:
+    Variant found = 1;
+    Text sought;
+    std::vector<Variant> shown;
+    Variant Get(TextView name) override { return name == u"Subtests" ? Variant(Ref(this)) : found; }
+    Variant Call(TextView name, std::span<Variant> arguments) override {
+        if (name == u"MsgBoxEx") {
+            shown.assign(arguments.begin(), arguments.end());
+        } else {
+            EXPECT_TRUE(name == u"Find" && arguments.size() == 1);
+            sought = arguments[0].ToText();
+        }
+        return found;
+    }
+};
+
+class ScaledScores : public Session {
+protected:
+    ScaledScores() {
+        rdd->AddDefaultSubtest();
+        auto algebra = Make<clsHTDRDDSubtest>();
+        algebra->SubtestName = u"Algebra";
+        rdd->Subtests->Add(std::move(algebra));
+    }
+    /// By percentile of two learning objectives, sound for the whole test.
+    void Renew() {
+        score = Make<clsHTDRDDScaledScore>();
+        score->ScaledScoreValues = HTDScaledScoreValuesDBPercentile;
+        score->ScaledScoreCriteriaPrimary = HTDScaledScoreCriteriaLearningObjective;
+        score->LearningObjectivePrimary = u"Algebra";
+        score->ScaledScoreCriteriaSecondary = HTDScaledScoreCriteriaLearningObjective;
+        score->LearningObjectiveSecondary = u"Overall";
+        score->DB->DBType = 0;
+        score->DB->Connect = u"x";
+        score->DB->ScoreField = u"Scaled";
+        score->DB->MinFieldPrimary = u"From";
+        score->DB->MaxFieldPrimary = u"To";
+        forObjective = false;
+    }
+    void Criteria(std::int32_t primary, std::int32_t secondary = HTDScaledScoreCriteriaNone) {
+        score->ScaledScoreCriteriaPrimary = static_cast<HTDScaledScoreCriteria>(primary);
+        score->ScaledScoreCriteriaSecondary = static_cast<HTDScaledScoreCriteria>(secondary);
+    }
+    std::string Judge(bool bVerbose = true) {
+        const bool valid = score->IsValid(rdd, forObjective, bVerbose);
+        const Said heard = Heard();
+        EXPECT_EQ(heard.size(), valid || !bVerbose ? 0U : 1U);
+        return heard.empty() ? valid ? "" : "invalid" : heard[0];
+    }
+    Ref<clsHTDRDDScaledScore> score;
+    bool forObjective = false;
+};
+
+TEST_F(ScaledScores, AreHeldToTheirRulesInOrder) {
+    const std::string stop = " [152 &OK]";
+    const std::string cannot =
+        "Invalid Scaled Score: This scaled score cannot be used with a learning objective. "
+        "The scaled scores ";
+    const std::string missing =
+        "Missing Learning Objective: The specified learning objective could not be found. Please define the "
+        "learning objective or choose another lookup criteria for the scaled score.\r\n\r\nLearning "
+        "Objective: ";
+    const auto values = [&](std::int32_t value) {
+        score->ScaledScoreValues = static_cast<HTDScaledScoreValues>(value);
+    };
+    const auto objective = [&](std::int32_t primary, std::int32_t secondary) {
+        forObjective = true;
+        Criteria(primary, secondary);
+    };
+    CheckRules(
+        {{"Scaled Scores: Please define your scaled scores." + stop, [&] { values(4); }, [&] { values(1); }},
+         {"Invalid Scaled Score: Percentiles are not calculated for individual objective and subjective "
+          "scores "
+          "and therefore cannot be used as a lookup value." +
+              stop,
+          [&] { Criteria(1, 3); },
+          [&] {
+              values(2);
+              Criteria(2, 3);
+          }},
+         {cannot + "primary lookup criteria must be set to Overall for use with learning objectives." + stop,
+          [&] { objective(4, 4); }, [&] { objective(1, 0); }},
+         {cannot + "secondary lookup criteria must be set to None for use with learning objectives." + stop,
+          [&] { objective(1, 4); }, [&] { objective(1, 0); }},
+         {"Primary Lookup Criteria: Please specify the primary lookup criteria for your scaled score." + stop,
+          [&] { Criteria(5); }, [&] { Criteria(1); }},
+         {"Primary Lookup Criteria: Please specify the primary lookup criteria for your scaled score." + stop,
+          [&] { Criteria(0); }, [&] { Criteria(1, 5); }},
+         {"Database Connection: Please verify your scaled score's database connection." + stop,
+          [&] { score->DB->Valid = false; },
+          {}},
+         {"Database Connection: Please verify your scaled score's database connection." + stop,
+          [&] { score->DB->DBType = -1; },
+          {}},
+         {"Database Connection: Please verify your scaled score's database connection." + stop,
+          [&] { score->DB->Connect = u" "; },
+          {}},
+         {"Invalid Field Name: The scaled score field name is missing or invalid." + stop,
+          [&] { score->DB->ScoreField = u""; },
+          {}},
+         {"Invalid Scaled Score: The primary minimum and/or maximum score field is missing or invalid." +
+              stop,
+          [&] { score->DB->MinFieldPrimary = u""; },
+          {}},
+         {"Invalid Scaled Score: The primary minimum and/or maximum score field is missing or invalid." +
+              stop,
+          [&] { score->DB->MaxFieldPrimary = u""; },
+          {}},
+         {missing + "algebra" + stop, [&] { score->LearningObjectivePrimary = u"algebra"; },
+          [&] {
+              Criteria(1, 4);
+              score->LearningObjectivePrimary = u"";
+          }},
+         {missing + stop, [&] { score->LearningObjectiveSecondary = u""; },
+          [&] {
+              Criteria(4);
+              score->LearningObjectiveSecondary = u"";
+          }}},
+        [&] { Renew(); }, [&] { return Judge(); });
+    EXPECT_EQ(Judge(false), "invalid");
+    score = Make<clsHTDRDDScaledScore>();
+    score->Clear();
+    EXPECT_TRUE(Judge().starts_with("Scaled Scores"));
+}
+
+TEST_F(ScaledScores, SearchByNameAndKeepTheirResultWhereThatFails) {
+    const auto isValid = [&](const Variant& in, bool bVerbose = false) {
+        return score->IsValid(in, false, bVerbose);
+    };
+    const std::string member = "clsHTDRDDScaledScore.IsValid";
+    Renew();
+    const auto other = Make<ByName>();
+    EXPECT_TRUE(isValid(other));
+    EXPECT_EQ(other->sought, u"Overall");
+    other->found = u"-1";
+    EXPECT_FALSE(isValid(other));
+    // This is meant: what stands when the search fails is that the fields are there.
+    EXPECT_TRUE(isValid(Ref<clsHTDRDD>()) && isValid({}) && isValid(1) && isValid(score) &&
+                isValid(Make<LateBound>()));
+    const std::string unknown = "438 Object doesn't support this property or method @ " + member;
+    EXPECT_EQ(Heard(), (Said{kNotSet + member, kNotSet + member, kTypeMismatch + member, unknown, unknown}));
+    Criteria(1);
+    EXPECT_TRUE(isValid({}));
+    score->DB = nullptr;
+    EXPECT_FALSE(isValid({}));
+    EXPECT_EQ(Heard(), Said{kNotSet + member});
+
+    Criteria(0);
+    rdd->SetError(other);
+    EXPECT_FALSE(isValid({}, true));
+    ASSERT_EQ(other->shown.size(), 5U);
+    EXPECT_TRUE(other->shown[3].AsObject() != nullptr && !*other->shown[3].AsObject()) << "the owner";
+    rdd->SetError(nullptr);
+    EXPECT_FALSE(isValid({}, true));
+    EXPECT_NE(files.files.begin()->second.find("Error# 91"), std::string::npos);
+}
+
+TEST_F(ScaledScores, OfLearningObjectivesAreAskedUntilOneIsValid) {
+    EXPECT_FALSE(rdd->ScaledScoreIsValid() || rdd->ScaledScoreIsValid(0) || rdd->ScaledScoreIsValid(3));
+    Renew();
+    rdd->Subtests->Item(1)->ScaledScore = score;
+    EXPECT_TRUE(rdd->ScaledScoreIsValid() && rdd->ScaledScoreIsValid(1));
+    EXPECT_FALSE(rdd->ScaledScoreIsValid(2));
+    rdd->Subtests->Item(1)->ScaledScore->ScaledScoreValues = HTDScaledScoreValuesNone;
+    EXPECT_FALSE(rdd->ScaledScoreIsValid());
+    Renew();
+    rdd->Subtests->Item(2)->ScaledScore = score; // names a learning objective, but belongs to one
+    EXPECT_FALSE(rdd->ScaledScoreIsValid());
+    Criteria(1);
+    rdd->Subtests->Add(nullptr);
+    EXPECT_TRUE(rdd->ScaledScoreIsValid()) << "those behind the first valid one aren't asked";
+    rdd->Subtests->Remove(2);
+    EXPECT_FALSE(rdd->ScaledScoreIsValid(2));
+    EXPECT_EQ(Heard(), Said());
+    EXPECT_FALSE(rdd->ScaledScoreIsValid());
+    EXPECT_EQ(Heard(), Said{kNotSet + "clsHTDRDD.ScaledScoreIsValid"});
+}
+
+class SubtestRule : public Session {
+protected:
+    /// Type of report, then the flags of a question: position of the objective that is written.
+    std::string Judge(HTDReportType type, TextView flags) {
+        rdd->Clear();
+        rdd->ReportType = type;
+        for (const TextView name : {u"Overall", u"Second"}) {
+            auto subtest = Make<clsHTDRDDSubtest>();
+            subtest->SubtestName = name;
+            rdd->Subtests->Add(std::move(subtest));
+        }
+        for (std::int32_t l = 1; l <= 2; ++l) {
+            auto question = Make<clsHTDRDDQuestion>();
+            const auto has = [&](char16_t flag) { return l == 1 || flags.find(flag) != TextView::npos; };
+            question->IncludeGrade = has(u'G');
+            question->IncludeTally = has(u'T');
+            question->SubjectiveField = has(u'S');
+            question->Subtests->Add(true);
+            question->Subtests->Add(l == 2);
+            rdd->Questions->Add(std::move(question));
+        }
+        std::int32_t subtest = -1;
+        const bool valid = rdd->ValidateSubtests(&subtest);
+        return (valid ? "true " : "false ") + std::to_string(subtest);
+    }
+};
+
+TEST_F(SubtestRule, DependsOnTheTypeOfReport) {
+    const auto judge = [&](TextView flags) {
+        std::string verdicts;
+        for (const auto type : {HTDReportTypeGrade, HTDReportTypeSurvey, HTDReportTypeGenericGrade})
+            verdicts += Judge(type, flags) + "; ";
+        return verdicts;
+    };
+    EXPECT_EQ(judge(u"G"), "true -1; false 2; true -1; ");
+    EXPECT_EQ(judge(u"T"), "false 2; true -1; false 2; ");
+    EXPECT_EQ(judge(u"S"), "true -1; false 2; false 2; ");
+    rdd->Questions->RemoveAll();
+    std::int32_t subtest = -1;
+    EXPECT_FALSE(rdd->ValidateSubtests(&subtest));
+    EXPECT_EQ(subtest, 1);
+    rdd->Subtests->RemoveAll();
+    EXPECT_TRUE(rdd->ValidateSubtests());
+}
+
+TEST_F(SubtestRule, AsksForMembershipOnlyWhereAQuestionCounts) {
+    EXPECT_EQ(Judge(HTDReportTypeGrade, u"G"), "true -1");
+    rdd->Questions->Item(1)->Subtests->RemoveAll();
+    EXPECT_FALSE(rdd->ValidateSubtests());
+    EXPECT_EQ(Heard(), Said{kNotSet + "frmGradeWizard.ValidateSubtests"});
+    rdd->Questions->Item(1)->IncludeGrade = rdd->Questions->Item(1)->SubjectiveField = false;
+    EXPECT_TRUE(rdd->ValidateSubtests());
+}
+
+} // namespace
+} // namespace htdrdd::test
