@@ -1,55 +1,18 @@
 /// Reading definition files, and letting go of what was read.
-#include "generator.h"
-#include "model/clsHTDRDD.h"
+#include "files.h"
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>
 
-#include <filesystem>
 #include <fstream>
 #include <malloc.h>
-#include <map>
 #include <optional>
-#include <tuple>
 #include <unistd.h>
 
 namespace htdrdd::bench {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Files of the benchmarks, made when they are first asked for and deleted at the end.
-class Files {
-public:
-    Files() : folder_(fs::temp_directory_path() / ("htdrdd_bench." + std::to_string(::getpid()))) {
-        fs::create_directory(folder_);
-    }
-    Files(const Files&) = delete;
-    Files& operator=(const Files&) = delete;
-    ~Files() {
-        std::error_code ignored;
-        fs::remove_all(folder_, ignored);
-    }
-    const fs::path& Of(const Shape& shape, std::string (*make)(const Shape&)) {
-        const Key key{shape.questions, shape.objectives, shape.versions, make == &DefinitionJson};
-        auto& path = paths_[key];
-        if (path.empty()) Write(path = folder_ / std::to_string(paths_.size()), make(shape));
-        return path;
-    }
-    static void Write(const fs::path& path, const std::string& bytes) {
-        std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    }
-
-private:
-    using Key = std::tuple<int, int, int, bool>;
-    fs::path folder_;
-    std::map<Key, fs::path> paths_;
-};
-
-Files& TheFiles() {
-    static Files files;
-    return files;
-}
 
 double HeapInUse() {
     const struct mallinfo2 info = ::mallinfo2();
@@ -71,14 +34,9 @@ void Report(benchmark::State& state, const fs::path& path, double held) {
     if (held > 0) state.counters["held/question"] = held / questions;
 }
 
-Ref<clsHTDRDD> ReadNew(TextView path) {
-    auto rdd = Make<clsHTDRDD>();
-    return rdd->Read(path) ? rdd : nullptr;
-}
-
 /// What reading costs; letting go isn't counted.
 void Read(benchmark::State& state) {
-    const fs::path& file = TheFiles().Of(ShapeOf(state), &DefinitionText);
+    const fs::path& file = Files::All().Of(ShapeOf(state), &DefinitionText);
     const Text path = FromNativePath(file.native());
     double held = 0;
     for (auto _ : state) {
@@ -97,7 +55,7 @@ void Read(benchmark::State& state) {
 
 /// Letting go of a definition that was read.
 void Release(benchmark::State& state) {
-    const fs::path& file = TheFiles().Of(ShapeOf(state), &DefinitionText);
+    const fs::path& file = Files::All().Of(ShapeOf(state), &DefinitionText);
     const Text path = FromNativePath(file.native());
     for (auto _ : state) {
         state.PauseTiming();
@@ -111,7 +69,7 @@ void Release(benchmark::State& state) {
 
 /// The same content out of a JSON file, which leaves a tree of values.
 void ReadJson(benchmark::State& state) {
-    const fs::path& file = TheFiles().Of(ShapeOf(state), &DefinitionJson);
+    const fs::path& file = Files::All().Of(ShapeOf(state), &DefinitionJson);
     double held = 0;
     for (auto _ : state) {
         state.PauseTiming();
@@ -136,8 +94,8 @@ void ReadJson(benchmark::State& state) {
 /// counts is that it takes microseconds.
 void HostileCounts(benchmark::State& state) {
     const fs::path file = fs::temp_directory_path() / ("htdrdd_hostile." + std::to_string(::getpid()));
-    Files::Write(file,
-                 "[Report]\nNumQuestions=1\nNumSubtests=2147483647\n\n[Question]\nSubtestNumber=32767,2\n");
+    WriteFile(file,
+              "[Report]\nNumQuestions=1\nNumSubtests=2147483647\n\n[Question]\nSubtestNumber=32767,2\n");
     const Text path = FromNativePath(file.native());
     const auto rdd = Make<clsHTDRDD>();
     for (auto _ : state) benchmark::DoNotOptimize(rdd->Read(path));

@@ -3,6 +3,7 @@
 #include "foundation/version.h"
 #include "host/output.h"
 #include "host/show.h"
+#include "host/validate.h"
 
 #include <CLI/CLI.hpp>
 
@@ -26,10 +27,20 @@ void AddShow(CLI::App& app, ShowOptions& options, Command& command) {
     show->callback([&] { command = [&] { return Show(options); }; });
 }
 
+void AddValidate(CLI::App& app, ValidateOptions& options, Command& command) {
+    CLI::App* const validate =
+        app.add_subcommand("validate", "Judge whether definition files can be trusted");
+    validate->add_option("FILE", options.files, "Definition files")->required()->type_name("");
+    validate->add_flag("--all", options.all,
+                       "Tell everything that is wrong, not only the first of each check");
+    validate->add_flag("--json", options.json, "Tell it for scripts, one JSON object for each file");
+    validate->callback([&] { command = [&] { return Validate(options); }; });
+}
+
 } // namespace
 
 ExitCode RunCommandLine(int argc, char** argv) {
-    CLI::App app("Shows answer keys of tests and surveys", "htdrdd");
+    CLI::App app("Shows and judges answer keys of tests and surveys", "htdrdd");
     app.set_version_flag("--version", "htdrdd " + std::string(kRelease), "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.footer(kExitCodes);
@@ -39,6 +50,8 @@ ExitCode RunCommandLine(int argc, char** argv) {
     Command command;
     ShowOptions showOptions;
     AddShow(app, showOptions, command);
+    ValidateOptions validateOptions;
+    AddValidate(app, validateOptions, command);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -12,15 +12,6 @@ constexpr std::int32_t kDeclined = 2;
 constexpr std::array kFileFailures{Err::BadFileName,      Err::FileNotFound,   Err::DeviceIO,
                                    Err::PermissionDenied, Err::PathFileAccess, Err::PathNotFound};
 
-/// Paragraphs of a message behind each other.
-std::string OnOneLine(TextView text) {
-    Text line;
-    EachPiece(Replaced(text, u"\r\n", u"\n"), u"\n", [&](TextView piece) {
-        if (!piece.empty()) line.append(line.empty() ? u"" : u" ").append(piece);
-    });
-    return Harmless(line);
-}
-
 bool IsFileFailure(const Variant& vError) {
     if (vError.Is() != Variant::Kind::Integer32) return false;
     const auto error = static_cast<Err>(vError.ToInteger32());

@@ -14,10 +14,16 @@ namespace htdrdd::host {
 /// The same for UTF-8, such as an argument.
 [[nodiscard]] std::string Harmless(std::string_view text);
 
+/// Paragraphs of a message behind each other, made harmless.
+[[nodiscard]] std::string OnOneLine(TextView text);
+
 /// Writes to standard output. What can't be written shows in Finished.
 void Print(std::string_view text);
 /// Writes one line to standard error, with the program's name in front.
 void Complain(std::string_view text);
+/// Writes to standard error, which is a terminal, what stands there until anything else is written. An empty
+/// text only erases what stood there.
+void ShowStatus(std::string_view text);
 /// Flushes standard output. False, with a complaint, if anything couldn't be written.
 [[nodiscard]] bool Finished();
 

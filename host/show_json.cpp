@@ -1,8 +1,6 @@
 #include "host/show_json.h"
 
-#include <nlohmann/json.hpp>
-
-#include <string_view>
+#include "host/json_text.h"
 
 namespace htdrdd::host {
 namespace {
@@ -124,7 +122,7 @@ Json Of(clsHTDRDDSubtest& subtest, bool bSecrets) {
     return {{"SubtestName", Of(subtest.SubtestName)},
             {"Description", Of(subtest.Description)},
             {"Benchmark", subtest.Benchmark},
-            {"GradeScale", Of(*subtest.GradeScale)},
+            {"GradeScale", Of(subtest.GradeScale.Peek())},
             {"ScaledScore", Of(*subtest.ScaledScore, bSecrets)}};
 }
 
@@ -161,29 +159,10 @@ Json Of(const clsHTDRDD& definition, bool bSecrets) {
     return object;
 }
 
-/// U+007F to U+009F as escapes: JSON allows them as they are, but terminals obey some of them.
-std::string WithoutControls(std::string_view json) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::string result;
-    result.reserve(json.size() + 1);
-    for (std::size_t i = 0; i < json.size(); ++i) {
-        auto byte = static_cast<unsigned char>(json[i]);
-        const bool twoBytes = byte == 0xC2 && i + 1 < json.size();
-        if (twoBytes) byte = static_cast<unsigned char>(json[i + 1]);
-        if (byte != 0x7F && !(twoBytes && byte < 0xA0)) {
-            result += json[i];
-            continue;
-        }
-        result.append("\\u00").append({kDigits[byte >> 4U], kDigits[byte & 0xFU]});
-        if (twoBytes) ++i;
-    }
-    return result;
-}
-
 } // namespace
 
 std::string DefinitionAsJson(const clsHTDRDD& definition, bool bSecrets) {
-    return WithoutControls(Of(definition, bSecrets).dump(2)) + '\n';
+    return JsonText(Of(definition, bSecrets), 2) + '\n';
 }
 
 } // namespace htdrdd::host

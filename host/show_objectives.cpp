@@ -112,7 +112,7 @@ std::string ObjectivesText(const clsHTDRDD& definition, const Memberships& membe
     Shared scores;
     for (std::int32_t l = 1; l <= definition.Subtests->Count(); ++l) {
         const auto subtest = definition.Subtests->Item(l);
-        const clsHTDRDDGradeScale& scale = *subtest->GradeScale;
+        const clsHTDRDDGradeScale& scale = subtest->GradeScale.Peek();
         const clsHTDRDDScaledScore& score = ScaledScoreOf(definition, l);
         table.Add({std::to_string(l), Harmless(subtest->SubtestName),
                    std::to_string(memberships.questionsOfObjective[static_cast<std::size_t>(l) - 1]),

@@ -58,15 +58,19 @@ bool IsSet(const char* variable) {
     return value != nullptr && *value != '\0';
 }
 
-} // namespace
-
-Terminal Terminal::OfOutput() {
-    const bool isTerminal = ::isatty(STDOUT_FILENO) == 1;
+Terminal Of(int descriptor) {
+    const bool isTerminal = ::isatty(descriptor) == 1;
     winsize window{};
-    const bool known = isTerminal && ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &window) == 0 && window.ws_col > 0;
+    const bool known = isTerminal && ::ioctl(descriptor, TIOCGWINSZ, &window) == 0 && window.ws_col > 0;
     const std::size_t width = known ? window.ws_col : WidthFromEnvironment(isTerminal ? 80 : 100);
     return {std::clamp(width, kNarrowest, kWidest), isTerminal && !IsSet("NO_COLOR")};
 }
+
+} // namespace
+
+Terminal Terminal::OfOutput() { return Of(STDOUT_FILENO); }
+
+Terminal Terminal::OfErrors() { return Of(STDERR_FILENO); }
 
 std::string Terminal::Bold(std::string_view text) const {
     return colour ? std::string("\x1b[1m").append(text) + "\x1b[0m" : std::string(text);

@@ -14,6 +14,8 @@ struct Terminal {
     /// A terminal's own width, else COLUMNS, else 80 on a terminal and 100 elsewhere. Colour only on a
     /// terminal, and not where NO_COLOR is set to anything.
     [[nodiscard]] static Terminal OfOutput();
+    /// That of standard error.
+    [[nodiscard]] static Terminal OfErrors();
 
     [[nodiscard]] std::string Bold(std::string_view text) const;
     [[nodiscard]] std::string Dim(std::string_view text) const;

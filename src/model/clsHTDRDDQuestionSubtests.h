@@ -41,6 +41,14 @@ public:
     /// What Item(l)->Include and Item(l)->Weight say, without an object; fail with 91 where there is none.
     [[nodiscard]] bool Includes(std::int32_t lIndex, Where at = Where::current()) const;
     [[nodiscard]] double WeightOf(std::int32_t lIndex, Where at = Where::current()) const;
+    /// Calls `visit(l)` for each membership whose Include is set, in order, without looking at the others.
+    /// Fails with 91 for an empty reference.
+    template <class Visit>
+    void EachIncluded(Visit visit) const {
+        for (const Slot& slot : slots_)
+            if (slot.holds == Slot::Holds::Reference ? slot.object->Include : slot.include)
+                visit(slot.lIndex);
+    }
     void SetInclude(std::int32_t lIndex, bool bInclude, Where at = Where::current());
     void SetWeight(std::int32_t lIndex, double dWeight, Where at = Where::current());
 

@@ -109,6 +109,8 @@ public:
     operator const Ref<T>&() const { return Made(); }
     T* operator->() const { return Made().Get(); }
     T& operator*() const { return *Made(); }
+    /// The object, or the one that it will be a copy of: enough to look at it, and nothing is copied.
+    [[nodiscard]] const T& Peek() const { return original_ ? *original_ : *Made(); }
 
 private:
     const Ref<T>& Made() const {

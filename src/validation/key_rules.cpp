@@ -3,6 +3,7 @@
 #include "foundation/basError.h"
 
 #include <array>
+#include <vector>
 
 namespace htdrdd {
 namespace {
@@ -108,6 +109,27 @@ Pieces PointsOf(TextView text, std::int32_t lNumber) {
     return pieces;
 }
 
+/// How many questions are in a learning objective.
+struct Members {
+    std::int32_t lAll = 0;
+    std::int32_t lExtraCredit = 0;
+};
+/// By position from 1; for all learning objectives in one walk over the questions.
+std::vector<Members> MembersOfObjectives(const clsHTDRDD& oRDD) {
+    std::vector<Members> members(static_cast<std::size_t>(oRDD.Subtests->Count()) + 1);
+    if (members.size() <= 2) return members;
+    for (std::int32_t l = 1; l <= oRDD.Questions->Count(); ++l) {
+        const auto question = oRDD.Questions->Item(l);
+        question->Subtests->EachIncluded([&](std::int32_t objective) {
+            if (static_cast<std::size_t>(objective) >= members.size()) return;
+            Members& own = members[static_cast<std::size_t>(objective)];
+            ++own.lAll;
+            if (question->ExtraCredit) ++own.lExtraCredit;
+        });
+    }
+    return members;
+}
+
 } // namespace
 
 void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
@@ -159,21 +181,15 @@ void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
 
     if (overall < questions->Count() && ends(NotAllInOverall)) return;
 
+    const std::vector<Members> members = MembersOfObjectives(oRDD);
     for (std::int32_t objective = 2; objective <= oRDD.Subtests->Count(); ++objective) {
-        std::int32_t members = 0;
-        std::int32_t extraCredit = 0;
-        for (std::int32_t l = 1; l <= questions->Count(); ++l) {
-            const auto question = questions->Item(l);
-            if (!question->Subtests->Exists(objective) || !question->Subtests->Includes(objective)) continue;
-            ++members;
-            if (question->ExtraCredit) ++extraCredit;
-        }
+        const Members& own = members[static_cast<std::size_t>(objective)];
         const auto flagged = [&](KeyRule rule, Where at = Where::current()) {
             return ends(rule, {.lSubtest = objective}, oRDD.Subtests->Item(objective)->SubtestName, at);
         };
-        if (members == 0) {
+        if (own.lAll == 0) {
             if (flagged(EmptyObjective)) return;
-        } else if (members == extraCredit) {
+        } else if (own.lAll == own.lExtraCredit) {
             if (flagged(OnlyExtraCredit)) return;
         }
     }

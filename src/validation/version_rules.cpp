@@ -8,6 +8,7 @@
 #include <array>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 namespace htdrdd {
 namespace {
@@ -67,16 +68,48 @@ constexpr std::array<Rule, VersionRuleCount> kVersionRules{{
 }};
 static_assert(!kVersionRules.back().message.empty());
 
+/// The response choices of the questions. Equal lists are known by the first of them, so that comparing two
+/// questions again and again costs no look at the texts.
+class ResponseChoices {
+public:
+    explicit ResponseChoices(const clsHTDRDDQuestions& questions) : lists_(Slot(questions.Count()) + 1) {
+        for (std::int32_t l = 1; l <= questions.Count(); ++l)
+            if (const auto question = questions.Item(l); question && question->AnswerValues)
+                lists_[Slot(l)] = *distinct_.insert(question->AnswerValues.Get()).first;
+    }
+    /// Fails with 91 for a position that has none.
+    [[nodiscard]] const clsHTDRDDStrings& Of(std::int32_t position, Where at = Where::current()) const {
+        const bool isThere = position > 0 && Slot(position) < lists_.size();
+        if (!isThere || lists_[Slot(position)] == nullptr) throw Failure(Err::NotSet, at);
+        return *lists_[Slot(position)];
+    }
+
+private:
+    using List = clsHTDRDDStrings;
+    struct Hash {
+        std::size_t operator()(const List* list) const noexcept {
+            std::size_t hash = 0;
+            for (const Text& text : *list) hash = hash * 31 + std::hash<Text>()(text);
+            return hash;
+        }
+    };
+    struct Equal {
+        bool operator()(const List* a, const List* b) const noexcept {
+            return std::equal(a->begin(), a->end(), b->begin(), b->end());
+        }
+    };
+    static std::size_t Slot(std::int32_t position) { return static_cast<std::size_t>(position); }
+
+    std::vector<const List*> lists_; ///< by position
+    std::unordered_set<const List*, Hash, Equal> distinct_;
+};
+
 /// Whether all of `other` are among the choices, and as many. Case counts.
 bool SameChoices(const clsHTDRDDStrings& choices, const clsHTDRDDStrings& other) {
-    const std::int32_t count = choices.Count();
-    if (other.Count() != count) return false;
-    std::int32_t l = 1;
-    while (l <= count && choices.Item(l) == other.Item(l)) ++l;
-    if (l > count) return true;
+    if (&choices == &other) return true;
+    if (choices.Count() != other.Count()) return false;
     const std::unordered_set<TextView> known(choices.begin(), choices.end());
-    while (l <= count && known.contains(other.Item(l))) ++l;
-    return l > count;
+    return std::all_of(other.begin(), other.end(), [&](TextView text) { return known.contains(text); });
 }
 
 /// "(A,C)": all of these answers or any of them, as CorrectAnd says.
@@ -113,12 +146,13 @@ Enough WalkScrambled(const clsHTDRDD& oRDD, std::int32_t position, const Finding
     if (questions->NumGraded() < 2 && ends(TooFewGraded)) return true;
 
     // This is meant: the walk starts behind the position that the version identifiers have reached.
+    const ResponseChoices choices(*questions);
     while ((position = questions->NextGraded(position)) > 0) {
-        const auto question = questions->Item(position);
+        const auto& own = choices.Of(position);
         for (std::int32_t sequence = 2; sequence <= sequences->Count(); ++sequence) {
-            const auto other = questions->Item(sequences->Item(sequence)->Item(position));
-            if (!SameChoices(*question->AnswerValues, *other->AnswerValues) &&
-                ends(DisparateChoices, {.lQuestion = position}, question->QuestionName))
+            const auto& other = choices.Of(sequences->Item(sequence)->Item(position));
+            if (!SameChoices(own, other) &&
+                ends(DisparateChoices, {.lQuestion = position}, questions->Item(position)->QuestionName))
                 return true;
         }
     }
@@ -154,11 +188,14 @@ Enough WalkStandard(const clsHTDRDD& oRDD, const FindingsOf& ends) {
         if (question->CorrectAnd != correctAnd && flagged(DisparateCorrectAnd)) return true;
     }
 
+    std::vector<Ref<clsHTDRDDQuestion>> subjective;
+    for (std::int32_t position = 0; (position = questions->NextSubjective(position)) > 0;)
+        subjective.push_back(questions->Item(position));
     double reference = 0;
     for (std::int32_t version = 1; version <= versions; ++version) {
         double sum = 0;
-        for (std::int32_t position = 0; (position = questions->NextSubjective(position)) > 0;)
-            sum += basPublic::TextToDouble(questions->Item(position)->CorrectAnswers->Item(version));
+        for (const auto& question : subjective)
+            sum += basPublic::TextToDouble(question->CorrectAnswers->Item(version));
         if (version == 1) reference = sum;
         if (sum != reference && ends(DisparateSubjective, {.lVersion = version}, DecimalText(version)))
             return true;

@@ -1,0 +1,35 @@
+/// Files of the benchmarks.
+#pragma once
+
+#include "generator.h"
+#include "model/clsHTDRDD.h"
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <tuple>
+
+namespace htdrdd::bench {
+
+/// Made when they are first asked for and deleted at the end.
+class Files {
+public:
+    static Files& All();
+    Files(const Files&) = delete;
+    Files& operator=(const Files&) = delete;
+    ~Files();
+    const std::filesystem::path& Of(const Shape& shape, std::string (*make)(const Shape&));
+
+private:
+    using Key = std::tuple<int, int, int, bool>;
+    Files();
+    std::filesystem::path folder_;
+    std::map<Key, std::filesystem::path> paths_;
+};
+
+void WriteFile(const std::filesystem::path& path, const std::string& bytes);
+
+/// The definition in a file; an empty reference where it isn't read.
+[[nodiscard]] Ref<clsHTDRDD> ReadNew(TextView path);
+
+} // namespace htdrdd::bench

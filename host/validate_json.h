@@ -1,0 +1,12 @@
+/// The checks of a definition as JSON.
+#pragma once
+
+#include "model/clsHTDRDD.h"
+
+namespace htdrdd::host {
+
+/// Runs the checks and prints one object, a line for each finding as soon as it is made. Whether none found
+/// anything.
+[[nodiscard]] bool ValidateAsJson(const Ref<clsHTDRDD>& definition, bool bAll);
+
+} // namespace htdrdd::host
