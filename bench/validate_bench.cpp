@@ -71,10 +71,9 @@ void Validate(benchmark::State& state, Ref<clsHTDRDD> (*make)(const benchmark::S
 
 bool Key(const clsHTDRDD& rdd) { return rdd.ValidateKey(); }
 bool Versions(const clsHTDRDD& rdd) { return rdd.ValidateVersions(); }
-bool Subtests(const clsHTDRDD& rdd) { return rdd.ValidateSubtests(); }
 
 benchmark::internal::Benchmark* Sizes(benchmark::internal::Benchmark* validate, std::int64_t objectives) {
-    validate->ArgNames({"questions", "objectives"})->Unit(benchmark::kMillisecond);
+    validate->ArgNames({"questions", "objectives"})->Unit(benchmark::kMicrosecond);
     for (const std::int64_t questions : {50, 1'000, 10'000, 100'000}) validate->Args({questions, objectives});
     return validate->Complexity(benchmark::oN);
 }
@@ -85,7 +84,6 @@ BENCHMARK_CAPTURE(Validate, Key, Plain, Key)->Apply(WithObjectives)->Args({10'00
 BENCHMARK_CAPTURE(Validate, KeyOfFourVersions, Standard, Key)->Apply(OverallOnly);
 BENCHMARK_CAPTURE(Validate, StandardVersions, Standard, Versions)->Apply(OverallOnly);
 BENCHMARK_CAPTURE(Validate, ScrambledVersions, Scrambled, Versions)->Apply(WithObjectives);
-BENCHMARK_CAPTURE(Validate, Subtests, Plain, Subtests)->Apply(WithObjectives);
 
 } // namespace
 } // namespace htdrdd::bench

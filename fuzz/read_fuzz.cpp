@@ -1,8 +1,7 @@
 /// Reads any bytes as a definition file and walks what came of them.
 #include "foundation/basPublicFiles.h"
 #include "fuzzing.h"
-#include "model/basPublicAnswers.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91.h"
 #include "platform/number.h"
 #include "platform/text_stream.h"
 #include "support/memory_file_system.h"
@@ -80,6 +79,36 @@ void CheckDefinition(const clsHTDRDD& rdd) {
     });
 }
 
+/// Whether a walk over rules finds nothing and comes to its end.
+template <class Walk>
+bool FindsNothing(Walk walk) {
+    bool nothing = true;
+    try {
+        walk(FindingSink([&](const Finding& finding) {
+            Demand(finding.lRule > 0);
+            return nothing = false;
+        }));
+    } catch (const Failure&) { nothing = false; }
+    return nothing;
+}
+
+/// A validator agrees with the walk over all of its rules.
+void Judge(const Ref<clsHTDRDD>& rdd) {
+    using Found = const FindingSink&;
+    Demand(rdd->ValidateKey() == FindsNothing([&](Found found) { WalkKeyRules(*rdd, found); }));
+    Demand(rdd->ValidateSubtests() == FindsNothing([&](Found found) { WalkSubtestRules(*rdd, found); }));
+    for (const auto type : {HTDVersionTypeNone, HTDVersionTypeKey, HTDVersionTypeSequence}) {
+        Variant given = type;
+        Demand(rdd->ValidateVersions(true, nullptr, &given) ==
+               FindsNothing([&](Found found) { WalkVersionRules(*rdd, type, found); }));
+    }
+    const clsHTDRDDGradeScale& scale = *rdd->GradeScale;
+    Demand(scale.Validate() == FindsNothing([&](Found found) { WalkGradeScaleRules(scale, found); }));
+    bool any = false;
+    for (std::int32_t l = 1; l <= rdd->Subtests->Count(); ++l) any = any || rdd->ScaledScoreIsValid(l);
+    Demand(any == rdd->ScaledScoreIsValid());
+}
+
 } // namespace
 } // namespace htdrdd::fuzz
 
@@ -101,7 +130,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Demand(used->Read(kFormerFile));
         Demand(used->Read(kFile) == read);
         Demand(used->FileName == (read ? kFile : kFormerFile));
-        Demand(Walk(*used) == Walk(*rdd));
+        const Text told = Walk(*rdd);
+        Demand(Walk(*used) == told);
+        Judge(rdd);
+        Demand(Walk(*rdd) == told);
     }
     UseFileSystem(nullptr);
     return 0;

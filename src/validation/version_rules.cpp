@@ -114,7 +114,7 @@ bool SameChoices(const clsHTDRDDStrings& choices, const clsHTDRDDStrings& other)
 
 /// "(A,C)": all of these answers or any of them, as CorrectAnd says.
 bool IsMultiple(TextView answer) {
-    return answer.find(u',') != TextView::npos && answer.front() == u'(' && answer.back() == u')';
+    return answer.starts_with(u'(') && answer.ends_with(u')') && answer.find(u',') != TextView::npos;
 }
 
 /// What a walk over one part of the rules gives back: whether the sink has enough.
