@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
@@ -10,28 +11,39 @@
 namespace htdrdd::test {
 
 struct RuleCase {
-    std::string verdict; ///< what judging says when the rule is broken
     std::function<void()> breaks;
     std::function<void()> justPasses; ///< empty where the sound thing itself does
 };
 
+/// The lines of tests/validation/words/NAME.txt, in which line ends of a verdict stand as \r\n.
+inline std::vector<std::string> Verdicts(const std::string& name) {
+    std::ifstream file(HTDRDD_SOURCE_DIR "/tests/validation/words/" + name + ".txt");
+    std::vector<std::string> verdicts;
+    for (std::string line; std::getline(file, line); verdicts.push_back(line))
+        for (std::size_t end = 0; (end = line.find("\\r\\n")) != std::string::npos;)
+            line.replace(end, 4, "\r\n");
+    return verdicts;
+}
+
 /// Holds each rule against something sound, then breaks them all from the last to the first: each time the
-/// one broken latest, being the first of those that are broken, has to speak. `judge` says nothing where all
-/// is well.
+/// one broken latest, being the first of those that are broken, has to speak, in the words that a file has
+/// for it. `judge` says nothing where all is well.
 template <class Renew, class Judge>
-void CheckRules(const std::vector<RuleCase>& rules, Renew renew, Judge judge) {
-    for (const RuleCase& rule : rules) {
+void CheckRules(const std::string& words, const std::vector<RuleCase>& rules, Renew renew, Judge judge) {
+    const std::vector<std::string> verdicts = Verdicts(words);
+    ASSERT_EQ(verdicts.size(), rules.size());
+    for (std::size_t i = 0; i < rules.size(); ++i) {
         renew();
-        if (rule.justPasses) rule.justPasses();
-        EXPECT_EQ(judge(), "") << "passes: " << rule.verdict;
+        if (rules[i].justPasses) rules[i].justPasses();
+        EXPECT_EQ(judge(), "") << "passes: " << verdicts[i];
         renew();
-        rule.breaks();
-        EXPECT_EQ(judge(), rule.verdict);
+        rules[i].breaks();
+        EXPECT_EQ(judge(), verdicts[i]);
     }
     renew();
-    for (auto rule = rules.rbegin(); rule != rules.rend(); ++rule) {
-        rule->breaks();
-        EXPECT_EQ(judge(), rule->verdict) << "with those behind it";
+    for (std::size_t i = rules.size(); i-- > 0;) {
+        rules[i].breaks();
+        EXPECT_EQ(judge(), verdicts[i]) << "with those behind it";
     }
 }
 

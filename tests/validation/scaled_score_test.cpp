@@ -60,14 +60,6 @@ protected:
 };
 
 TEST_F(ScaledScores, AreHeldToTheirRulesInOrder) {
-    const std::string stop = " [152 &OK]";
-    const std::string cannot =
-        "Invalid Scaled Score: This scaled score cannot be used with a learning objective. "
-        "The scaled scores ";
-    const std::string missing =
-        "Missing Learning Objective: The specified learning objective could not be found. Please define the "
-        "learning objective or choose another lookup criteria for the scaled score.\r\n\r\nLearning "
-        "Objective: ";
     const auto values = [&](std::int32_t value) {
         score->ScaledScoreValues = static_cast<HTDScaledScoreValues>(value);
     };
@@ -76,50 +68,29 @@ TEST_F(ScaledScores, AreHeldToTheirRulesInOrder) {
         Criteria(primary, secondary);
     };
     CheckRules(
-        {{"Scaled Scores: Please define your scaled scores." + stop, [&] { values(4); }, [&] { values(1); }},
-         {"Invalid Scaled Score: Percentiles are not calculated for individual objective and subjective "
-          "scores "
-          "and therefore cannot be used as a lookup value." +
-              stop,
-          [&] { Criteria(1, 3); },
+        "scaled_score",
+        {{[&] { values(4); }, [&] { values(1); }},
+         {[&] { Criteria(1, 3); },
           [&] {
               values(2);
               Criteria(2, 3);
           }},
-         {cannot + "primary lookup criteria must be set to Overall for use with learning objectives." + stop,
-          [&] { objective(4, 4); }, [&] { objective(1, 0); }},
-         {cannot + "secondary lookup criteria must be set to None for use with learning objectives." + stop,
-          [&] { objective(1, 4); }, [&] { objective(1, 0); }},
-         {"Primary Lookup Criteria: Please specify the primary lookup criteria for your scaled score." + stop,
-          [&] { Criteria(5); }, [&] { Criteria(1); }},
-         {"Primary Lookup Criteria: Please specify the primary lookup criteria for your scaled score." + stop,
-          [&] { Criteria(0); }, [&] { Criteria(1, 5); }},
-         {"Database Connection: Please verify your scaled score's database connection." + stop,
-          [&] { score->DB->Valid = false; },
-          {}},
-         {"Database Connection: Please verify your scaled score's database connection." + stop,
-          [&] { score->DB->DBType = -1; },
-          {}},
-         {"Database Connection: Please verify your scaled score's database connection." + stop,
-          [&] { score->DB->Connect = u" "; },
-          {}},
-         {"Invalid Field Name: The scaled score field name is missing or invalid." + stop,
-          [&] { score->DB->ScoreField = u""; },
-          {}},
-         {"Invalid Scaled Score: The primary minimum and/or maximum score field is missing or invalid." +
-              stop,
-          [&] { score->DB->MinFieldPrimary = u""; },
-          {}},
-         {"Invalid Scaled Score: The primary minimum and/or maximum score field is missing or invalid." +
-              stop,
-          [&] { score->DB->MaxFieldPrimary = u""; },
-          {}},
-         {missing + "algebra" + stop, [&] { score->LearningObjectivePrimary = u"algebra"; },
+         {[&] { objective(4, 4); }, [&] { objective(1, 0); }},
+         {[&] { objective(1, 4); }, {}},
+         {[&] { Criteria(5); }, [&] { Criteria(1); }},
+         {[&] { Criteria(0); }, [&] { Criteria(1, 5); }},
+         {[&] { score->DB->Valid = false; }, {}},
+         {[&] { score->DB->DBType = -1; }, {}},
+         {[&] { score->DB->Connect = u" "; }, {}},
+         {[&] { score->DB->ScoreField = u""; }, {}},
+         {[&] { score->DB->MinFieldPrimary = u""; }, {}},
+         {[&] { score->DB->MaxFieldPrimary = u""; }, {}},
+         {[&] { score->LearningObjectivePrimary = u"algebra"; },
           [&] {
               Criteria(1, 4);
               score->LearningObjectivePrimary = u"";
           }},
-         {missing + stop, [&] { score->LearningObjectiveSecondary = u""; },
+         {[&] { score->LearningObjectiveSecondary = u""; },
           [&] {
               Criteria(4);
               score->LearningObjectiveSecondary = u"";

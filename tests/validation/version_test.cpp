@@ -56,35 +56,18 @@ protected:
         EXPECT_EQ(heard.size(), valid ? 0U : 1U);
         return (valid ? "" : heard[0]) + (version != -1 ? " V" + std::to_string(version) : "");
     }
-    static std::string Says(const std::string& text, const std::string& written = "") {
-        return text + " @ clsHTDRDD.ValidateVersions" + written;
-    }
     Variant type;
 };
 
-const std::string kUnique = "All test versions must have a unique version ID.\r\n\r\n";
-
 TEST_F(VersionRules, HoldForScrambledOnesInOrder) {
     CheckRules(
-        {{Says("Missing Version ID: " + kUnique +
-                   "Please select an answer to identify test version (2) or delete the version.",
-               " V2"),
-          [&] { Identifiers(u"A\t\ta"); }, [&] { Identifiers(u" \t  "); }},
-         {Says("Duplicate Version ID: " + kUnique + "Duplicate Versions: 1, 3\r\nDuplicate Answer: \u00E4",
-               " V3"),
-          [&] { Identifiers(u"\u00C4\tB\t\u00E4\t"); }, [&] { Identifiers(u"A"); }},
-         {Says("Graded Questions: The test must contain at least two graded questions when defining multiple "
-               "test versions."),
-          [&] { Q(1).IncludeGrade = Q(2).IncludeGrade = Q(3).IncludeGrade = false; },
+        "scrambled",
+        {{[&] { Identifiers(u"A\t\ta"); }, [&] { Identifiers(u" \t  "); }},
+         {[&] { Identifiers(u"\u00C4\tB\t\u00E4\t"); }, [&] { Identifiers(u"A"); }},
+         {[&] { Q(1).IncludeGrade = Q(2).IncludeGrade = Q(3).IncludeGrade = false; },
           [&] { Q(1).IncludeGrade = Q(2).IncludeGrade = false; }},
-         {Says("Disparate Response Choices: When scrambling test questions, all graded questions that occupy "
-               "the same position must have the same response choices.\r\n\r\nFlagged Question: Q4"),
-          [&] { Choices(3, u"A\tb\tC"); }, [&] { Choices(3, u"C\tA\tB"); }},
-         {Says("Question Count: All test versions must contain the same number of questions.\r\n\r\nTest "
-               "Version: 2",
-               " V2"),
-          [&] { rdd->Versions->Sequences->Item(2)->Add(4); },
-          {}}},
+         {[&] { Choices(3, u"A\tb\tC"); }, [&] { Choices(3, u"C\tA\tB"); }},
+         {[&] { rdd->Versions->Sequences->Item(2)->Add(4); }, {}}},
         [&] { RenewScrambled(); }, [&] { return Judge(); });
 
     rdd->Versions->Answers->RemoveAll();
@@ -115,47 +98,24 @@ TEST_F(VersionRules, LookAtChoicesBehindThePositionThatTheIdentifiersReach) {
 }
 
 TEST_F(VersionRules, HoldForStandardOnesInOrder) {
-    const auto graded = [](const std::string& caption, const std::string& what) {
-        return Says(caption + ": All graded questions must " + what + "\r\n\r\nFlagged Question: Q2");
+    const auto answer = [&](TextView items) {
+        Answers(2, items);
+        Q(2).CorrectAnd = true;
     };
-    const std::string defining = " when defining multiple test versions.";
     CheckRules(
-        {{Says("Missing Version ID: " + kUnique +
-                   "Please select an answer to identify test version (1) or delete the version.",
-               " V1"),
-          [&] { Identifiers(u"\tB"); },
-          {}},
-         {Says("Learning Objectives: You cannot define learning objectives when using standard test "
-               "versions."),
-          [&] { rdd->Subtests->Add(Make<clsHTDRDDSubtest>()); }, [&] { rdd->Subtests->RemoveAll(); }},
-         {graded("Invalid Correct Answers", "have a correct answer defined for each version of the test."),
-          [&] { Answers(2, u"A\t(A,B)\tC"); },
+        "standard",
+        {{[&] { Identifiers(u"\tB"); }, {}},
+         {[&] { rdd->Subtests->Add(Make<clsHTDRDDSubtest>()); }, [&] { rdd->Subtests->RemoveAll(); }},
+         {[&] { Answers(2, u"A\t(A,B)\tC"); },
           [&] {
               Identifiers(u"A");
               Answers(2, u"A\tB\tC");
           }},
-         {graded("Disparate Correct Points", "have the same number of correct points" + defining),
-          [&] { Q(2).CorrectPoints = .1 + .2; }, [&] { Q(3).CorrectPoints = 2; }},
-         {graded("Disparate Incorrect Points", "have the same number of incorrect points" + defining),
-          [&] { Q(2).IncorrectPoints = -1; },
-          {}},
-         {graded("Disparate No Response Points", "have the same number of no response points" + defining),
-          [&] { Q(2).NoResponsePoints = -1; },
-          {}},
-         {graded("Correct Answer Determination",
-                 "use the same method for determining whether an answer is correct" + defining),
-          [&] {
-              Answers(2, u"A\t(A,B)");
-              Q(2).CorrectAnd = true;
-          },
-          [&] {
-              Answers(2, u"(A\tA,(B)");
-              Q(2).CorrectAnd = true;
-          }},
-         {Says("Subjective Questions: All test versions must contain the same set of subjective "
-               "questions.\r\n\r\nTest Version: 2",
-               " V2"),
-          [&] { Answers(4, u"5"); },
+         {[&] { Q(2).CorrectPoints = .1 + .2; }, [&] { Q(3).CorrectPoints = 2; }},
+         {[&] { Q(2).IncorrectPoints = -1; }, {}},
+         {[&] { Q(2).NoResponsePoints = -1; }, {}},
+         {[&] { answer(u"A\t(A,B)"); }, [&] { answer(u"(A\tA,(B)"); }},
+         {[&] { Answers(4, u"5"); },
           [&] {
               Answers(3, u"4%\t6");
               Answers(4, u"6\t4x");
