@@ -3,10 +3,9 @@
 #include "platform/process.h"
 #include "support/session.h"
 
-#include <gmock/gmock.h>
-
 #include <csignal>
 #include <cstdlib>
+#include <gmock/gmock.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
