@@ -41,7 +41,6 @@ bool clsHTDRDDGradeScale::Validate(bool bVerbose, std::int32_t* lInvalidItem) co
     constexpr TextView kLocation = u"HTDRdd91 - clsHTDRDDGradeScale.Validate";
     bool result = false;
     try {
-        const Ref<const clsHTDRDDGradeScale> self(this); // a report may make the host release the scale
         const auto finding =
             FirstFinding([this](const FindingSink& found) { WalkGradeScaleRules(*this, found); });
         if (finding) {

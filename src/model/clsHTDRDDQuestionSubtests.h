@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace htdrdd {
@@ -41,13 +42,17 @@ public:
     /// What Item(l)->Include and Item(l)->Weight say, without an object; fail with 91 where there is none.
     [[nodiscard]] bool Includes(std::int32_t lIndex, Where at = Where::current()) const;
     [[nodiscard]] double WeightOf(std::int32_t lIndex, Where at = Where::current()) const;
-    /// Calls `visit(l)` for each membership whose Include is set, in order, without looking at the others.
-    /// Fails with 91 for an empty reference.
+    /// Calls `visit(l, included)` in order for each membership that isn't a plain non-member. `included` has
+    /// no value where Includes fails, for an empty reference.
     template <class Visit>
-    void EachIncluded(Visit visit) const {
-        for (const Slot& slot : slots_)
-            if (slot.holds == Slot::Holds::Reference ? slot.object->Include : slot.include)
-                visit(slot.lIndex);
+    void EachMembership(Visit visit) const {
+        for (const Slot& slot : slots_) {
+            const bool isReference = slot.holds == Slot::Holds::Reference;
+            if (isReference && !slot.object)
+                visit(slot.lIndex, std::optional<bool>());
+            else
+                visit(slot.lIndex, std::optional(isReference ? slot.object->Include : slot.include));
+        }
     }
     void SetInclude(std::int32_t lIndex, bool bInclude, Where at = Where::current());
     void SetWeight(std::int32_t lIndex, double dWeight, Where at = Where::current());

@@ -6,11 +6,11 @@ namespace htdrdd {
 namespace {
 
 /// What a value without number or text fails with.
-[[noreturn]] void Refuse(Variant::Kind kind, Where at) {
-    switch (kind) {
+[[noreturn]] void Refuse(const Variant& value, Where at) {
+    switch (value.Is()) {
     case Variant::Kind::Missing: throw Failure(Err::ArgumentMissing, at);
     case Variant::Kind::Null: throw Failure(Err::InvalidNull, at);
-    case Variant::Kind::Reference: throw Failure(Err::NoSuchMember, at);
+    case Variant::Kind::Reference: throw Failure(*value.AsObject() ? Err::NoSuchMember : Err::NotSet, at);
     default: throw Failure(Err::TypeMismatch, at);
     }
 }
@@ -25,7 +25,7 @@ double Variant::ToDouble(Where at) const {
     case Kind::Integer32: return std::get<std::int32_t>(value_);
     case Kind::Double: return std::get<double>(value_);
     case Kind::String: return RegionalNumber(*AsText(), at);
-    default: Refuse(Is(), at);
+    default: Refuse(*this, at);
     }
 }
 
@@ -49,7 +49,7 @@ Text Variant::ToText(Where at) const {
     case Kind::Integer32:
     case Kind::Double: return RegionalText(ToDouble(at));
     case Kind::String: return *AsText();
-    default: Refuse(Is(), at);
+    default: Refuse(*this, at);
     }
 }
 

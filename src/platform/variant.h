@@ -36,8 +36,8 @@ public:
     [[nodiscard]] const Ref<Object>* AsObject() const noexcept { return std::get_if<Ref<Object>>(&value_); }
 
     /// Conversions. Empty is 0, false and the empty text; texts are read and numbers are written by the rules
-    /// of the region; any number but 0 is true. Null fails with 94, missing with 449, an object with 438, a
-    /// text that is no number with 13, a number out of range with 6.
+    /// of the region; any number but 0 is true. Null fails with 94, missing with 449, an empty
+    /// reference with 91, any other with 438, a text that is no number with 13, a number out of range with 6.
     [[nodiscard]] double ToDouble(Where at = Where::current()) const;
     [[nodiscard]] std::int32_t ToInteger32(Where at = Where::current()) const;
     [[nodiscard]] std::int16_t ToInteger16(Where at = Where::current()) const;

@@ -109,10 +109,11 @@ Pieces PointsOf(TextView text, std::int32_t lNumber) {
     return pieces;
 }
 
-/// How many questions are in a learning objective.
+/// How many questions are in a learning objective, and whether that can be told of all of them.
 struct Members {
     std::int32_t lAll = 0;
     std::int32_t lExtraCredit = 0;
+    bool isKnown = true;
 };
 /// By position from 1; for all learning objectives in one walk over the questions.
 std::vector<Members> MembersOfObjectives(const clsHTDRDD& oRDD) {
@@ -120,9 +121,11 @@ std::vector<Members> MembersOfObjectives(const clsHTDRDD& oRDD) {
     if (members.size() <= 2) return members;
     for (std::int32_t l = 1; l <= oRDD.Questions->Count(); ++l) {
         const auto question = oRDD.Questions->Item(l);
-        question->Subtests->EachIncluded([&](std::int32_t objective) {
+        question->Subtests->EachMembership([&](std::int32_t objective, std::optional<bool> included) {
             if (static_cast<std::size_t>(objective) >= members.size()) return;
             Members& own = members[static_cast<std::size_t>(objective)];
+            if (!included) own.isKnown = false;
+            if (!included.value_or(false)) return;
             ++own.lAll;
             if (question->ExtraCredit) ++own.lExtraCredit;
         });
@@ -136,7 +139,9 @@ void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
     const FindingsOf ends(kKeyRules, found);
     const auto& questions = oRDD.Questions;
 
-    if (questions->NextGraded(0) <= 0 && questions->NextSubjective(0) <= 0 && ends(NoGradedQuestions)) return;
+    const std::int32_t graded = questions->NextGraded(0);
+    const std::int32_t subjective = questions->NextSubjective(0);
+    if (graded <= 0 && subjective <= 0 && ends(NoGradedQuestions)) return;
 
     const bool standardVersions = oRDD.Versions->VType() == HTDVersionTypeKey;
     const std::int32_t keys = standardVersions ? oRDD.Versions->Answers->Count() : 1;
@@ -184,6 +189,7 @@ void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
     const std::vector<Members> members = MembersOfObjectives(oRDD);
     for (std::int32_t objective = 2; objective <= oRDD.Subtests->Count(); ++objective) {
         const Members& own = members[static_cast<std::size_t>(objective)];
+        if (!own.isKnown) throw Failure(Err::NotSet, Where::current());
         const auto flagged = [&](KeyRule rule, Where at = Where::current()) {
             return ends(rule, {.lSubtest = objective}, oRDD.Subtests->Item(objective)->SubtestName, at);
         };
@@ -200,7 +206,7 @@ bool clsHTDRDD::ValidateKey(bool bVerbose, std::int32_t* lInvalidQuestion, std::
     constexpr TextView kLocation = u"HTDRdd91 - clsHTDRDD.ValidateKey";
     bool result = false;
     try {
-        const Ref<const clsHTDRDD> self(this); // a report may make the host release the document
+        const Ref<const clsHTDRDD> self(this); // a report on the way may make the host release it
         const auto finding = FirstFinding([this](const FindingSink& found) { WalkKeyRules(*this, found); });
         if (finding) {
             ReportFinding(*finding, kLocation, bVerbose);

@@ -3,6 +3,8 @@
 #include "foundation/basError.h"
 
 #include <array>
+#include <optional>
+#include <vector>
 
 namespace htdrdd {
 namespace {
@@ -11,30 +13,58 @@ enum SubtestRule : std::size_t { NoQuestionCounts, SubtestRuleCount };
 
 constexpr std::array<Rule, SubtestRuleCount> kSubtestRules{};
 
+/// What a walk over questions meets first of a learning objective: a member, or a question of which it can't
+/// be told, since it has no such membership.
+enum class Membership : std::uint8_t { None, Member, Unknown };
+
+/// By position from 1; for all learning objectives in one walk over the questions that count.
+template <class Counts>
+std::vector<Membership> FirstMemberships(const clsHTDRDD& oRDD, Counts counts) {
+    std::vector<Membership> first(static_cast<std::size_t>(oRDD.Subtests->Count()) + 1);
+    std::size_t open = first.size() - 1; // how many have met nothing yet
+    std::size_t end = first.size();      // none of those from here on
+    const auto meet = [&](std::size_t objective, Membership what) {
+        if (first[objective] != Membership::None) return;
+        first[objective] = what;
+        --open;
+    };
+    for (std::int32_t l = 1; open > 0 && l <= oRDD.Questions->Count(); ++l) {
+        const auto question = oRDD.Questions->Item(l);
+        if (question && !counts(*question)) continue;
+        const auto memberships = question ? question->Subtests : nullptr;
+        const std::int32_t count = memberships ? memberships->Count() : 0;
+        while (end > static_cast<std::size_t>(count) + 1) meet(--end, Membership::Unknown);
+        if (!memberships) continue;
+        memberships->EachMembership([&](std::int32_t objective, std::optional<bool> included) {
+            const auto place = static_cast<std::size_t>(objective);
+            if (place < end && included != false)
+                meet(place, included ? Membership::Member : Membership::Unknown);
+        });
+    }
+    return first;
+}
+
 } // namespace
 
-void WalkSubtestRules(const clsHTDRDD& oRDD, const FindingSink& found) {
-    const FindingsOf ends(kSubtestRules, found);
+void WalkSubtestRules(const clsHTDRDD& oRDD, const FindingSink& sink) {
+    const FindingsOf ends(kSubtestRules, sink);
     const bool test = oRDD.ReportType == HTDReportTypeGrade;
     const bool survey = oRDD.ReportType == HTDReportTypeSurvey;
     const auto counts = [&](const clsHTDRDDQuestion& question) {
         return (question.SubjectiveField && test) || (question.IncludeTally && survey) ||
                (question.IncludeGrade && !survey);
     };
+    const std::vector<Membership> found = FirstMemberships(oRDD, counts);
     for (std::int32_t objective = 1; objective <= oRDD.Subtests->Count(); ++objective) {
-        bool any = false;
-        for (std::int32_t l = 1; !any && l <= oRDD.Questions->Count(); ++l) {
-            const auto question = oRDD.Questions->Item(l);
-            any = counts(*question) && question->Subtests->Includes(objective);
-        }
-        if (!any && ends(NoQuestionCounts, {.lSubtest = objective})) return;
+        const Membership first = found[static_cast<std::size_t>(objective)];
+        if (first == Membership::Unknown) throw Failure(Err::NotSet, Where::current());
+        if (first == Membership::None && ends(NoQuestionCounts, {.lSubtest = objective})) return;
     }
 }
 
 bool clsHTDRDD::ValidateSubtests(std::int32_t* lInvalidSubtest) const noexcept {
     bool result = false;
     try {
-        const Ref<const clsHTDRDD> self(this);
         const auto finding =
             FirstFinding([this](const FindingSink& found) { WalkSubtestRules(*this, found); });
         if (finding) WriteOffender(lInvalidSubtest, finding->offender.lSubtest);

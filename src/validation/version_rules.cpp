@@ -151,9 +151,10 @@ Enough WalkScrambled(const clsHTDRDD& oRDD, std::int32_t position, const Finding
         const auto& own = choices.Of(position);
         for (std::int32_t sequence = 2; sequence <= sequences->Count(); ++sequence) {
             const auto& other = choices.Of(sequences->Item(sequence)->Item(position));
-            if (!SameChoices(own, other) &&
-                ends(DisparateChoices, {.lQuestion = position}, questions->Item(position)->QuestionName))
+            if (SameChoices(own, other)) continue;
+            if (ends(DisparateChoices, {.lQuestion = position}, questions->Item(position)->QuestionName))
                 return true;
+            break; // it is the same finding for each sequence
         }
     }
     for (std::int32_t sequence = 1; sequence <= sequences->Count(); ++sequence)
@@ -189,10 +190,11 @@ Enough WalkStandard(const clsHTDRDD& oRDD, const FindingsOf& ends) {
     }
 
     std::vector<Ref<clsHTDRDDQuestion>> subjective;
-    for (std::int32_t position = 0; (position = questions->NextSubjective(position)) > 0;)
-        subjective.push_back(questions->Item(position));
     double reference = 0;
     for (std::int32_t version = 1; version <= versions; ++version) {
+        if (version == 1)
+            for (std::int32_t position = 0; (position = questions->NextSubjective(position)) > 0;)
+                subjective.push_back(questions->Item(position));
         double sum = 0;
         for (const auto& question : subjective)
             sum += basPublic::TextToDouble(question->CorrectAnswers->Item(version));
@@ -203,11 +205,15 @@ Enough WalkStandard(const clsHTDRDD& oRDD, const FindingsOf& ends) {
     return false;
 }
 
-/// A number as a type. One that stands for no type, such as 1.5, becomes a value that is none of them.
-HTDVersionType TypeOf(double number) {
+/// A value as a type, compared as a number. What stands for no type, such as 1.5 or null, becomes a value
+/// that is none of them.
+HTDVersionType TypeOf(const Variant& value, Where at = Where::current()) {
+    constexpr auto kNoType = static_cast<HTDVersionType>(-1);
+    if (value.Is() == Variant::Kind::Null) return kNoType;
+    const double number = value.ToDouble(at);
     for (const auto type : {HTDVersionTypeNone, HTDVersionTypeKey, HTDVersionTypeSequence})
         if (number == static_cast<std::int32_t>(type)) return type;
-    return static_cast<HTDVersionType>(-1);
+    return kNoType;
 }
 
 } // namespace
@@ -228,14 +234,14 @@ bool clsHTDRDD::ValidateVersions(bool bVerbose, std::int32_t* lInvalidVersion,
     constexpr TextView kLocation = u"HTDRdd91 - clsHTDRDD.ValidateVersions";
     bool result = false;
     try {
-        const Ref<const clsHTDRDD> self(this); // a report may make the host release the document
+        const Ref<const clsHTDRDD> self(this); // a report on the way may make the host release it
         Variant type;
         if (eVersionType != nullptr) type = *eVersionType;
         if (type.IsMissing() || type.Is() == Variant::Kind::Empty) {
             type = Versions->VType();
             if (eVersionType != nullptr) *eVersionType = type;
         }
-        const HTDVersionType kind = TypeOf(type.ToDouble());
+        const HTDVersionType kind = TypeOf(type);
         const auto finding =
             FirstFinding([&](const FindingSink& found) { WalkVersionRules(*this, kind, found); });
         if (finding) {

@@ -121,6 +121,7 @@ TEST_F(GradeScales, AreHeldToTheirRulesInOrder) {
     const std::string rows = "Grade Scale Contents: Grade scales must contain at least one range." + member;
     const auto judge = [&](TextView grades, TextView startValues) {
         std::int32_t item = -1;
+        host->whenHeard = [&] { EXPECT_EQ(item, -1) << "written behind the complaint"; };
         const bool valid = Scale(grades, startValues)->Validate(true, &item);
         const Said heard = Heard();
         EXPECT_EQ(heard.size(), valid ? 0U : 1U);
@@ -135,6 +136,7 @@ TEST_F(GradeScales, AreHeldToTheirRulesInOrder) {
     EXPECT_EQ(judge(u"A|F", u"90|.5") + judge(u"A|F", u"90|-.5"), " -1 -1") << "it rounds to the even number";
     EXPECT_EQ(judge(u"", u""), rows + " -1");
     EXPECT_EQ(judge(u"A", u"40000"), kOverflow + "clsHTDRDDGradeScale.Validate -1");
+    host->whenHeard = nullptr;
     EXPECT_FALSE(Scale(u"A", u"1")->Validate(false));
     EXPECT_EQ(Heard(), Said{"(silent) " + last});
 }

@@ -45,10 +45,12 @@ TEST(Values, ConvertByTheRulesOfTheRegion) {
     EXPECT_EQ(Variant(Variant(u"1,50").ToDouble()).ToText() + Variant::Empty().ToText(), u"1,5");
     EXPECT_TRUE(Variant(u"tRUE").ToBoolean() && Variant(.1).ToBoolean() && !Variant(u"False").ToBoolean());
     Text converted;
-    for (const Variant& value : {Variant(u"2,5"), Variant(true), Variant::Empty(), Variant(), Variant::Null(),
-                                 Variant(Make<Thing>()), Variant(u"abc"), Variant(32767.5)})
+    for (const Variant& value :
+         {Variant(u"2,5"), Variant(true), Variant::Empty(), Variant(), Variant::Null(),
+          Variant(Make<Thing>()), Variant(Ref<Thing>()), Variant(u"abc"), Variant(32767.5)})
         converted += Outcome([&] { return value.ToInteger16(); }) + u"; ";
-    EXPECT_EQ(converted, u"2; -1; 0; failure 449; failure 94; failure 438; failure 13; failure 6; ");
+    EXPECT_EQ(converted,
+              u"2; -1; 0; failure 449; failure 94; failure 438; failure 91; failure 13; failure 6; ");
 }
 
 TEST(Threads, HaveAStateOfTheirOwnThatEndsWithThem) {

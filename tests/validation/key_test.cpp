@@ -36,7 +36,7 @@ protected:
     }
     void Versions(std::int32_t question) {
         rdd->Versions->Question = question;
-        rdd->Versions->Answers->AddDelimitedString(u"A\tB");
+        rdd->Versions->Answers->AddDelimitedString(u"A\tB\tC");
     }
     /// The complaint and what was written, "Q2", "K1" or "S3".
     std::string Judge(bool bVerbose = true) {
@@ -70,18 +70,29 @@ TEST_F(Keys, AreHeldToTheirRulesInOrder) {
          {[&] { Q(2).CorrectAnswers->Item(1, u""); }, [&] { Q(2).CorrectAnswers->Item(1, u" "); }},
          {[&] { Points(u""); }, [&] { Points(u" , "); }},
          {[&] { Q(2).NumCorrect = 3; }, [&] { Points(u"1,2,3"); }},
-         {[&] { Points(u",2"); }, [&] { Points(u"1,2,,"); }},
+         {[&] {
+              Points(u",2");
+              Q(2).NumCorrect = 2;
+          },
+          [&] { Points(u"1,2,,"); }},
          {[&] { Q(2).SubjectiveField = true; }, {}},
          {[&] { Q(2).IDField = true; }, {}},
-         {[&] { Q(2).NumCorrect = 1; }, [&] { Q(4).PartialCredit = true; }},
+         {[&] { Q(2).NumCorrect = 0; }, [&] { Q(4).PartialCredit = true; }},
          {[&] { Q(3).IDField = true; }, {}},
          {[&] { Q(3).PartialCredit = true; }, {}},
          {[&] { Q(4).Subtests->SetInclude(1, false); }, {}},
          {[&] {
               Exclude({1, 5}, 2);
           },
-          [&] { Exclude({5}, 2); }},
-         {[&] { Exclude({1}, 3); },
+          [&] {
+              Exclude({5}, 2);
+              Q(1).Subtests->Item(2)->Weight = 2;
+          }},
+         {[&] {
+              Exclude({1}, 3);
+              Q(4).Subtests->SetInclude(3, true);
+              Q(4).ExtraCredit = true;
+          },
           [&] {
               Exclude({1}, 3);
               Q(4).Subtests->SetInclude(3, true);
@@ -97,23 +108,44 @@ TEST_F(Keys, CountOneForEachStandardVersion) {
     Renew();
     Versions(4);
     Q(2).PartialCredit = false;
-    for (std::int32_t l : {1, 2, 5}) Q(l).CorrectAnswers->Add(u"C");
+    for (std::int32_t l : {1, 2, 5}) Q(l).CorrectAnswers->AddDelimitedString(u"C\tD");
     EXPECT_EQ(Judge(), "");
     Q(5).CorrectAnswers->Item(2, u"");
     EXPECT_TRUE(Judge().ends_with(" Q5 K2"));
-    rdd->Versions->Sequences->Add(Make<clsHTDRDDSequence>()); // scrambled: one key again
+    for (int i = 0; i < 2; ++i) rdd->Versions->Sequences->Add(Make<clsHTDRDDSequence>()); // one key again
     EXPECT_TRUE(Judge().ends_with(" Q1"));
-    for (std::int32_t l : {1, 2, 5}) Q(l).CorrectAnswers->Remove(2);
+    for (std::int32_t l : {1, 2, 5}) {
+        Q(l).CorrectAnswers->Remove(3);
+        Q(l).CorrectAnswers->Remove(2);
+    }
     EXPECT_EQ(Judge(), "");
 }
 
-TEST_F(Keys, WithoutLearningObjectivesFailUnexpectedly) {
+TEST_F(Keys, MayHaveNothingButExtraCreditInAll) {
     Renew();
+    for (std::int32_t l = 1; l <= 5; ++l) {
+        Q(l).ExtraCredit = true;
+        for (const std::int32_t objective : {3, 2}) Q(l).Subtests->Remove(objective);
+    }
+    for (const std::int32_t objective : {3, 2}) rdd->Subtests->Remove(objective);
+    EXPECT_EQ(Judge(), "");
+}
+
+TEST_F(Keys, FailUnexpectedlyWhereSomethingIsNotThere) {
+    Renew();
+    Q(1).Subtests->Item(3, nullptr);
+    EXPECT_EQ(Judge(), kNotSet + "clsHTDRDD.ValidateKey");
+    Exclude({1, 5}, 2);
+    EXPECT_TRUE(Judge().ends_with(" S2")) << "the learning objective in front of it speaks first";
     rdd->Subtests->RemoveAll();
     for (std::int32_t l = 1; l <= 5; ++l) Q(l).Subtests->RemoveAll();
     EXPECT_EQ(Judge(false), kNotSet + "clsHTDRDD.ValidateKey");
     Q(1).CorrectAnswers = nullptr;
     EXPECT_EQ(Judge(), kNotSet + "clsHTDRDD.ValidateKey");
+    rdd->Questions->Add(nullptr, {}, 1);
+    host->whenHeard = [&] { rdd = nullptr; }; // the walk over graded questions reports
+    EXPECT_FALSE(rdd->ValidateKey());
+    EXPECT_EQ(Heard().size(), 3U);
 }
 
 TEST_F(Keys, CanBeWalkedBehindTheFirstFinding) {

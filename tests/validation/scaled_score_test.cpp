@@ -9,6 +9,7 @@ class ByName final : public LateBound {
 public:
     Variant found = 1;
     Text sought;
+    std::function<void()> whenCalled;
     std::vector<Variant> shown;
     Variant Get(TextView name) override { return name == u"Subtests" ? Variant(Ref(this)) : found; }
     Variant Call(TextView name, std::span<Variant> arguments) override {
@@ -17,6 +18,7 @@ public:
         } else {
             EXPECT_TRUE(name == u"Find" && arguments.size() == 1);
             sought = arguments[0].ToText();
+            if (whenCalled) whenCalled();
         }
         return found;
     }
@@ -70,6 +72,7 @@ TEST_F(ScaledScores, AreHeldToTheirRulesInOrder) {
     CheckRules(
         "scaled_score",
         {{[&] { values(4); }, [&] { values(1); }},
+         {[&] { Criteria(2); }, [&] { Criteria(1); }},
          {[&] { Criteria(1, 3); },
           [&] {
               values(2);
@@ -77,6 +80,7 @@ TEST_F(ScaledScores, AreHeldToTheirRulesInOrder) {
           }},
          {[&] { objective(4, 4); }, [&] { objective(1, 0); }},
          {[&] { objective(1, 4); }, {}},
+         {[&] { objective(1, 1); }, {}},
          {[&] { Criteria(5); }, [&] { Criteria(1); }},
          {[&] { Criteria(0); }, [&] { Criteria(1, 5); }},
          {[&] { score->DB->Valid = false; }, {}},
@@ -111,6 +115,10 @@ TEST_F(ScaledScores, SearchByNameAndKeepTheirResultWhereThatFails) {
     const auto other = Make<ByName>();
     EXPECT_TRUE(isValid(other));
     EXPECT_EQ(other->sought, u"Overall");
+    other->whenCalled = [&] { score = nullptr; };
+    EXPECT_TRUE(isValid(other));
+    other->whenCalled = nullptr;
+    Renew();
     other->found = u"-1";
     EXPECT_FALSE(isValid(other));
     // This is meant: what stands when the search fails is that the fields are there.

@@ -63,20 +63,28 @@ TEST_F(VersionRules, HoldForScrambledOnesInOrder) {
     CheckRules(
         "scrambled",
         {{[&] { Identifiers(u"A\t\ta"); }, [&] { Identifiers(u" \t  "); }},
-         {[&] { Identifiers(u"\u00C4\tB\t\u00E4\t"); }, [&] { Identifiers(u"A"); }},
+         {[&] { Identifiers(u"I\tB\t\u0131\t"); }, [&] { Identifiers(u"\u00DF\t\u1E9E"); }},
          {[&] { Q(1).IncludeGrade = Q(2).IncludeGrade = Q(3).IncludeGrade = false; },
           [&] { Q(1).IncludeGrade = Q(2).IncludeGrade = false; }},
          {[&] { Choices(3, u"A\tb\tC"); }, [&] { Choices(3, u"C\tA\tB"); }},
-         {[&] { rdd->Versions->Sequences->Item(2)->Add(4); }, {}}},
+         {[&] { rdd->Versions->Sequences->Item(2)->Add(4); },
+          [&] {
+              rdd->Versions->Sequences->Item(1)->Item(4, 3); // only those behind the first are looked at
+              rdd->Versions->Sequences->Item(2)->Item(4, 4);
+              Choices(3, u"x");
+          }}},
         [&] { RenewScrambled(); }, [&] { return Judge(); });
 
     rdd->Versions->Answers->RemoveAll();
     rdd->Versions->Answers->Add(u"");
     EXPECT_TRUE(Judge(false).starts_with("(silent) Graded")) << "a single identifier may be empty";
-    type = 7; // no type: the identifiers alone count
-    EXPECT_EQ(Judge(), "");
-    Identifiers(u"A\ta");
-    EXPECT_TRUE(Judge().starts_with("Duplicate"));
+    for (const Variant& none : {Variant(7), Variant(1.5), Variant::Null()}) { // the identifiers alone count
+        type = none;
+        Identifiers(u"A\tB");
+        EXPECT_EQ(Judge(), "");
+        Identifiers(u"A\ta");
+        EXPECT_TRUE(Judge().starts_with("Duplicate"));
+    }
     type = HTDVersionTypeNone;
     EXPECT_EQ(Judge(), "");
 }
@@ -92,9 +100,16 @@ TEST_F(VersionRules, LookAtChoicesBehindThePositionThatTheIdentifiersReach) {
     Choices(4, u"");
     EXPECT_EQ(Judge(), "") << "the only graded question behind is none";
 
+    rdd->Versions->Sequences->Item(1)->Remove(4);
+    EXPECT_TRUE(Judge().ends_with("Version: 1 @ clsHTDRDD.ValidateVersions V1"));
     Identifiers(u"A");
     rdd->Versions->Sequences->Item(2)->RemoveAll();
     EXPECT_EQ(Judge(), kNotSet + "clsHTDRDD.ValidateVersions") << "too short a sequence";
+
+    rdd->Questions->Add(nullptr);
+    host->whenHeard = [&] { rdd = nullptr; }; // counting the graded questions reports
+    EXPECT_FALSE(rdd->ValidateVersions(true, nullptr, &type));
+    EXPECT_EQ(Heard().size(), 2U);
 }
 
 TEST_F(VersionRules, HoldForStandardOnesInOrder) {
@@ -114,17 +129,20 @@ TEST_F(VersionRules, HoldForStandardOnesInOrder) {
          {[&] { Q(2).CorrectPoints = .1 + .2; }, [&] { Q(3).CorrectPoints = 2; }},
          {[&] { Q(2).IncorrectPoints = -1; }, {}},
          {[&] { Q(2).NoResponsePoints = -1; }, {}},
-         {[&] { answer(u"A\t(A,B)"); }, [&] { answer(u"(A\tA,(B)"); }},
+         {[&] { answer(u"A\t(A,B)"); }, [&] { answer(u"(A)\tA,(B)"); }},
          {[&] { Answers(4, u"5"); },
           [&] {
-              Answers(3, u"4%\t6");
-              Answers(4, u"6\t4x");
+              Answers(3, u"4%\t6,0");
+              Answers(4, u"60\t4x");
           }}},
         [&] { RenewStandard(); }, [&] { return Judge(); });
 
     RenewStandard();
     for (std::int32_t l = 1; l <= 2; ++l) Q(l).IncludeGrade = false;
     EXPECT_EQ(Judge(), "");
+    Identifiers(u"A\tB\tC");
+    Answers(3, u"5\t5\t11");
+    EXPECT_TRUE(Judge().ends_with(" V3"));
 }
 
 TEST_F(VersionRules, TakeTheTypeThatIsGivenElseThatOfTheVersions) {
@@ -141,6 +159,8 @@ TEST_F(VersionRules, TakeTheTypeThatIsGivenElseThatOfTheVersions) {
     EXPECT_EQ(type.ToText(), u"0");
     type = u"x";
     EXPECT_EQ(Judge(), kTypeMismatch + "clsHTDRDD.ValidateVersions");
+    type = Ref<clsHTDRDD>();
+    EXPECT_EQ(Judge(), kNotSet + "clsHTDRDD.ValidateVersions");
     EXPECT_FALSE(rdd->ValidateVersions());
     rdd->Versions->Question = 0;
     EXPECT_TRUE(rdd->ValidateVersions());
