@@ -210,9 +210,13 @@ TEST_F(SubtestRule, DependsOnTheTypeOfReport) {
 
 TEST_F(SubtestRule, AsksForMembershipOnlyWhereAQuestionCounts) {
     EXPECT_EQ(Judge(HTDReportTypeGrade, u"G"), "true -1");
-    rdd->Questions->Item(1)->Subtests->RemoveAll();
+    const auto memberships = rdd->Questions->Item(1)->Subtests;
+    memberships->Item(2, nullptr);
     EXPECT_FALSE(rdd->ValidateSubtests());
-    EXPECT_EQ(Heard(), Said{kNotSet + "frmGradeWizard.ValidateSubtests"});
+    memberships->Remove(2);
+    EXPECT_FALSE(rdd->ValidateSubtests());
+    const std::string notSet = kNotSet + "frmGradeWizard.ValidateSubtests";
+    EXPECT_EQ(Heard(), (Said{notSet, notSet}));
     rdd->Questions->Item(1)->IncludeGrade = rdd->Questions->Item(1)->SubjectiveField = false;
     EXPECT_TRUE(rdd->ValidateSubtests());
 }

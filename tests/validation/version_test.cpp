@@ -1,5 +1,6 @@
 #include "support/rules.h"
 #include "support/session.h"
+#include "validation/version_rules.h"
 
 namespace htdrdd::test {
 namespace {
@@ -96,6 +97,10 @@ TEST_F(VersionRules, LookAtChoicesBehindThePositionThatTheIdentifiersReach) {
     EXPECT_EQ(Judge(), "");
     Identifiers(u"");
     EXPECT_TRUE(Judge().ends_with("Question: Q1 @ clsHTDRDD.ValidateVersions"));
+    rdd->Versions->Sequences->Add(rdd->Versions->Sequences->Item(2));
+    std::int32_t findings = 0;
+    WalkVersionRules(*rdd, HTDVersionTypeSequence, [&](const Finding&) { return ++findings == 0; });
+    EXPECT_EQ(findings, 2) << "one a position, Q1 and Q2";
     Identifiers(u"A\tB\tC");
     Choices(4, u"");
     EXPECT_EQ(Judge(), "") << "the only graded question behind is none";
@@ -106,10 +111,11 @@ TEST_F(VersionRules, LookAtChoicesBehindThePositionThatTheIdentifiersReach) {
     rdd->Versions->Sequences->Item(2)->RemoveAll();
     EXPECT_EQ(Judge(), kNotSet + "clsHTDRDD.ValidateVersions") << "too short a sequence";
 
-    rdd->Questions->Add(nullptr);
-    host->whenHeard = [&] { rdd = nullptr; }; // counting the graded questions reports
-    EXPECT_FALSE(rdd->ValidateVersions(true, nullptr, &type));
-    EXPECT_EQ(Heard().size(), 2U);
+    type = HTDVersionTypeKey;
+    rdd->Questions->Add(nullptr, {}, 1);
+    host->whenHeard = [&] { rdd = nullptr; }; // each walk over questions reports
+    EXPECT_TRUE(rdd->ValidateVersions(true, nullptr, &type));
+    EXPECT_EQ(Heard().size(), 3U);
 }
 
 TEST_F(VersionRules, HoldForStandardOnesInOrder) {
