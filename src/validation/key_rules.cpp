@@ -2,6 +2,7 @@
 
 #include "foundation/basError.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -159,8 +160,10 @@ void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
         const bool fits = question->Subtests->Count() == oRDD.Subtests->Count();
         if (!fits && flagged(NumberOfMemberships)) return;
         if (question->IncludeGrade) {
-            if (question->CorrectAnswers->Count() != keys && flagged(NumberOfCorrectAnswers)) return;
-            for (std::int32_t key = 1; key <= keys; ++key) {
+            const std::int32_t answers = question->CorrectAnswers->Count();
+            if (answers != keys && flagged(NumberOfCorrectAnswers)) return;
+            const std::int32_t there = std::min(keys, answers); // those that are missing have been told
+            for (std::int32_t key = 1; key <= there; ++key) {
                 if (question->CorrectAnswers->Item(key).empty() && flagged(NoCorrectAnswer, key)) return;
                 if (!question->PartialCredit) continue;
                 const Text& points = question->CorrectAnswerPoints->Item(key);
