@@ -46,17 +46,17 @@ std::vector<Membership> FirstMemberships(const clsHTDRDD& oRDD, Counts counts) {
 
 } // namespace
 
-void WalkSubtestRules(const clsHTDRDD& oRDD, const FindingSink& sink) {
-    const FindingsOf ends(kSubtestRules, sink);
+void WalkSubtestRules(const clsHTDRDD& oRDD, const FindingSink& found) {
+    const FindingsOf ends(kSubtestRules, found);
     const bool test = oRDD.ReportType == HTDReportTypeGrade;
     const bool survey = oRDD.ReportType == HTDReportTypeSurvey;
     const auto counts = [&](const clsHTDRDDQuestion& question) {
         return (question.SubjectiveField && test) || (question.IncludeTally && survey) ||
                (question.IncludeGrade && !survey);
     };
-    const std::vector<Membership> found = FirstMemberships(oRDD, counts);
+    const std::vector<Membership> memberships = FirstMemberships(oRDD, counts);
     for (std::int32_t objective = 1; objective <= oRDD.Subtests->Count(); ++objective) {
-        const Membership first = found[static_cast<std::size_t>(objective)];
+        const Membership first = memberships[static_cast<std::size_t>(objective)];
         if (first == Membership::Unknown) throw Failure(Err::NotSet, Where::current());
         if (first == Membership::None && ends(NoQuestionCounts, {.lSubtest = objective})) return;
     }
