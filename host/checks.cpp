@@ -72,38 +72,38 @@ auto MembersOf(const clsHTDRDDScaledScore& score) {
 }
 
 void CheckScales(const clsHTDRDD& rdd, Runner& run) {
-    const auto check = [&](const clsHTDRDDGradeScale& scale, const char* owner, std::int32_t objective = 0) {
+    const auto check = [&](const clsHTDRDDGradeScale& scale, Owner owner, std::int32_t objective = 0) {
         if (scale.Count() > 0)
             run({"gradeScale", "Grade scale", owner, objective},
                 [&](const FindingSink& found) { WalkGradeScaleRules(scale, found); });
     };
-    check(*rdd.GradeScale, "definition");
-    if (!Same(*rdd.SubtestGradeScale, *rdd.GradeScale)) check(*rdd.SubtestGradeScale, "objectives");
+    check(*rdd.GradeScale, Owner::Definition);
+    if (!Same(*rdd.SubtestGradeScale, *rdd.GradeScale)) check(*rdd.SubtestGradeScale, Owner::Objectives);
     const clsHTDRDDGradeScale* judged = nullptr; // what several learning objectives may share
     for (std::int32_t l = 1; l <= rdd.Subtests->Count(); ++l) {
         const auto subtest = rdd.Subtests->Item(l);
         const clsHTDRDDGradeScale& own = subtest->GradeScale.Peek();
         const auto& original = l == 1 ? rdd.GradeScale : rdd.SubtestGradeScale;
-        if (&own != judged && !Same(own, *original)) check(own, "objective", l);
+        if (&own != judged && !Same(own, *original)) check(own, Owner::Objective, l);
         judged = &own;
     }
 }
 
 void CheckScores(const Ref<clsHTDRDD>& definition, Runner& run) {
-    const auto check = [&](const clsHTDRDDScaledScore& score, const char* owner, std::int32_t objective = 0) {
+    const auto check = [&](const clsHTDRDDScaledScore& score, Owner owner, std::int32_t objective = 0) {
         if (score.ScaledScoreValues == HTDScaledScoreValuesNone) return;
-        const bool forObjective = owner != std::string_view("definition") && objective != 1;
+        const bool forObjective = owner != Owner::Definition && objective != 1;
         run({"scaledScore", "Scaled score", owner, objective}, [&](const FindingSink& found) {
             bool result = false;
             WalkScaledScoreRules(score, definition, forObjective, result, found);
         });
     };
-    check(*definition->ScaledScore, "definition");
-    check(*definition->SubtestScaledScore, "objectives");
+    check(*definition->ScaledScore, Owner::Definition);
+    check(*definition->SubtestScaledScore, Owner::Objectives);
     for (std::int32_t l = 1; l <= definition->Subtests->Count(); ++l) {
         const Ref<clsHTDRDDScaledScore> own = definition->Subtests->Item(l)->ScaledScore;
         const auto& original = l == 1 ? definition->ScaledScore : definition->SubtestScaledScore;
-        if (MembersOf(*own) != MembersOf(*original)) check(*own, "objective", l);
+        if (MembersOf(*own) != MembersOf(*original)) check(*own, Owner::Objective, l);
     }
 }
 

@@ -8,11 +8,14 @@
 
 namespace htdrdd::host {
 
+/// Whose a scale or a scaled score is.
+enum class Owner { None, Definition, Objectives, Objective };
+
 struct Check {
     const char* id = nullptr; ///< as scripts know it
     const char* name = nullptr;
-    const char* owner = nullptr; ///< the same of a scale or a score: definition, objectives or objective
-    std::int32_t objective = 0;  ///< position of the learning objective that is the owner
+    Owner owner = Owner::None;
+    std::int32_t objective = 0; ///< position of the learning objective that is the owner
 };
 
 /// Takes what checks find, while they run.

@@ -16,13 +16,23 @@ void Put(Json& object, const Place& place) {
     if (!place.name.empty()) object[std::string(place.id) + "Name"] = ToUtf8(place.name);
 }
 
+const char* NameOf(Owner owner) {
+    switch (owner) {
+    case Owner::Definition: return "definition";
+    case Owner::Objectives: return "objectives";
+    case Owner::Objective: return "objective";
+    case Owner::None: break;
+    }
+    return "";
+}
+
 class JsonReport final : public Report {
 public:
     explicit JsonReport(const clsHTDRDD& definition) : definition_(definition) {}
 
     void Begin(const Check& check) override {
         check_ = {{"check", check.id}};
-        if (check.owner != nullptr) check_["of"] = check.owner;
+        if (check.owner != Owner::None) check_["of"] = NameOf(check.owner);
         for (const Place& place : PlacesOf(definition_, {.lSubtest = check.objective})) Put(check_, place);
         found_ = false;
     }

@@ -59,11 +59,15 @@ private:
     static constexpr std::size_t kVerdict = 8;
 
     [[nodiscard]] std::string OwnerOf(const Check& check) const {
-        if (check.owner == nullptr) return {};
-        if (check.objective > 0)
+        switch (check.owner) {
+        case Owner::Definition:
+            return definition_.ReportType == HTDReportTypeSurvey ? " of the survey" : " of the test";
+        case Owner::Objectives: return " shared by the learning objectives";
+        case Owner::Objective:
             return " of " + TextOf(PlacesOf(definition_, {.lSubtest = check.objective}).front());
-        if (std::string_view(check.owner) == "objectives") return " shared by the learning objectives";
-        return definition_.ReportType == HTDReportTypeSurvey ? " of the survey" : " of the test";
+        case Owner::None: break;
+        }
+        return {};
     }
     void PrintVerdict(const std::string& verdict) const {
         Print("  " + verdict + "  " + Wrapped(title_, terminal_.width - kVerdict - 2, kVerdict + 2) + '\n');

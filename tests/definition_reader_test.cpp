@@ -2,6 +2,8 @@
 #include "platform/number.h"
 #include "platform/process.h"
 #include "support/session.h"
+#include "support/telling.h"
+#include "support/words.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -14,27 +16,13 @@ namespace {
 
 using test::Said;
 
-constexpr const char* kPrematurely =
-    "Invalid File: An error occurred reading the [Report] section of the configuration file. The file ended "
-    "prematurely. [152 &OK]";
-constexpr const char* kSequenceLength =
-    "Invalid File: An error occurred reading the [Sequence] section of the configuration file. The number of "
-    "questions in the sequence do not match the number of questions in the answer key file. [152 &OK]";
-
-std::string Invalid(const std::string& what) {
-    return "Invalid File: An error occurred reading the " + what + " [152 &OK]";
-}
-std::string CountMessage(const std::string& what) { return Invalid("configuration file. " + what); }
-
 class DefinitionReader : public test::Session {
 protected:
     /// Reads one [Question] section in a definition with two learning objectives.
-    Ref<clsHTDRDDQuestion> Question(TextView lines, Said expected = {}) {
-        const bool ok = Read(Text(u"[Report]\nNumQuestions=1\nNumSubtests=2\n\n[Subtest]\n\n[Subtest]\n\n"
-                                  u"[Question]\n")
-                                 .append(lines));
-        EXPECT_EQ(ok, expected.empty());
-        EXPECT_EQ(Heard(), expected);
+    Ref<clsHTDRDDQuestion> Question(TextView lines) {
+        EXPECT_TRUE(Read(Text(u"[Report]\nNumQuestions=1\nNumSubtests=2\n\n[Subtest]\n\n[Subtest]\n\n"
+                              u"[Question]\n")
+                             .append(lines)));
         return rdd->Questions->Item(1);
     }
     /// Reads [Report] with a few keys, and something behind it.
@@ -102,6 +90,54 @@ TEST_F(DefinitionReader, ReadsASingleByteFileOfTheOlderForm) {
     EXPECT_EQ(rdd->Questions->Item(2)->SubjectivePoints, 0);
 }
 
+// Each a line of words: what is heard, and what stands then.
+TEST_F(DefinitionReader, RefusesWhatIsBroken) {
+    const std::initializer_list<TextView> broken = {
+        u"[Report]\nTemplateName=T\n\n",
+        u"[Report]",
+        u"[Report]\nNumPages=1\n[Question]",
+        u"[Report]\nTemplateName=T\nNumPages=2147483648\n\nend\n",
+        u"[Report]\nTemplateName=T\nType=32768\n\nend\n",
+        u"[Report]\nNumQuestions=2\n\n[Question]\n",
+        u"[Report]\nNumQuestions=-5\nNumSubtests=-5\n\n[Question]\n",
+        u"[Report]\nNumQuestions=1\nNumSubtests=1\nNumVersions=2\n\n[Versions]\nAnswers=A\n\n[Question]\n",
+        u"[Report]\nNumQuestions=1\nNumVersions=2\n\n[Versions]\nAnswers=A\tB\tC\nSequence=1\nSequence=1\n\n["
+        u"Question]\n",
+        u"[Report]\nNumQuestions=1\nNumVersions=1\n\n[Versions]\nAnswers=A\tB\tC\nSequence=1\nSequence=1\n\n["
+        u"Question]\n",
+        u"[Report]\nNumQuestions=1\n\n[Header]\na=b\n[Question]\nQuestionName=Q\n",
+        u"[Report]\nNumQuestions=1\n\n[Question]\nMultiplesPermitted=-32768\n",
+        u"[Report]\nNumQuestions=1\nNumSubtests=2\n\n[Question]\nSubtestNumber=2\t\t1\n",
+        u"[Report]\nNumQuestions=1\nNumSubtests=2\n\n[Question]\nSubtestNumber=2,1\t\n",
+        u"[Report]\nNumQuestions=1\nNumSubtests=2\n\n[Question]\nSubtestNumber=32768\n",
+        u"[Report]\nNumQuestions=2\n\n[Versions]\nSequence=1\t2\nSequence=1\t2\t3\n",
+        u"[Report]\nNumQuestions=2\n\n[Sequence]\nOrder=1\t2\nOrder=2\t1\n",
+        u"[Report]\nNumQuestions=2\n\n[Versions]\nAnswers=\nSequence=\n",
+        u"[Report]\nNumQuestions=2\n\n[Sequence]\nAnswer=A\n\n[Question]\n\n[Question]\n[Sequence]\nOrder="
+        u"9E9\t1\n",
+        u"[Report]\nNumSubtests=1\n\n[Subtest]\nNumValues=3\nGrades=A\tB\tC\nStartValues=2\t1\n",
+        u"[Report]\n\n[SubtestScale]\nNumValues=2\nGrades=A\nStartValues=0\n",
+        u"[Report]\n\n[Scale]\nNumValues=0\nGrades=\nStartValues=\n",
+        u"[Report]\n\n[Scale]\nNumValues=1\nGrades=A\n",
+        u"[Report]\n\n[Scale]\nNumValues=1\nGrades=A\nStartValues=0\n\n[Scale]\nNumValues=1\nGrades="
+        u"B\nStartValues=0\n",
+    };
+    std::vector<std::string> told;
+    for (const TextView file : broken) {
+        EXPECT_FALSE(Read(file)) << ToUtf8(file);
+        const Said heard = Heard();
+        std::string line = heard.size() == 1 ? heard[0] : std::to_string(heard.size()) + " complaints";
+        line += " | " + ToUtf8(rdd->TemplateName) + " " + std::to_string(rdd->Questions->Count()) +
+                " questions, " + std::to_string(rdd->Subtests->Count()) + " objectives, rows " +
+                std::to_string(rdd->GradeScale->Count()) + "/" +
+                std::to_string(rdd->SubtestGradeScale->Count()) + ", sequences";
+        test::Each(*rdd->Versions->Sequences,
+                   [&](const auto& sequence) { line += " " + std::to_string(sequence.Count()); });
+        told.push_back(line);
+    }
+    EXPECT_EQ(told, test::Words("reader"));
+}
+
 TEST_F(DefinitionReader, AddsWhatEveryDefinitionHas) {
     ASSERT_TRUE(Read(u"[Report]\nNumQuestions=2\n\n[Question]\n\n[Question]\nSubtestNumber=1,3\n"));
     EXPECT_EQ(rdd->Versions->Sequences->Item(1)->AsString(u","), u"1,2");
@@ -149,17 +185,12 @@ TEST_F(DefinitionReader, FollowsTheLinesFromSectionToSection) {
     EXPECT_EQ(rdd->Questions->Item(3)->QuestionName, u"Q3");
 }
 
-TEST_F(DefinitionReader, KeepsTheCaseOfTheLineThatEndsTheHeader) {
-    const auto questions = [&](TextView section) {
-        return Read(Text(u"[Report]\nNumQuestions=1\n\n[Header]\na=b\n")
-                        .append(section)
-                        .append(u"\nQuestionName=Q\n"));
-    };
-    EXPECT_TRUE(questions(u"[QUESTION]"));
-    EXPECT_FALSE(questions(u"[Question]")); // this is meant: it isn't recognised there
-    EXPECT_EQ(Heard(),
-              Said{CountMessage("The NumQuestions parameter did not match the number of questions found.")});
-    EXPECT_TRUE(questions(u"\n[Question]"));
+TEST_F(DefinitionReader, EndsSectionsWhereTheyEnd) {
+    EXPECT_TRUE(Read(u"[Report]\nNumQuestions=1\n\n[Header]\na=b\n[QUESTION]\nQuestionName=Q\n"));
+    EXPECT_TRUE(Read(u"[Report]\nNumQuestions=1\n\n[Header]\na=b\n\n[Question]\nQuestionName=Q\n"));
+    EXPECT_TRUE(Read(u"[Report]\n\n\n"));
+    EXPECT_TRUE(Read(u"[Report]\nNumSubtests=1\n\n[Subtest]\nGrades=A\nStartValues=0\n"));
+    EXPECT_EQ(rdd->Subtests->Item(1)->GradeScale->Count(), 0);
 }
 
 TEST_F(DefinitionReader, ReadsNumbersByOneRule) {
@@ -170,43 +201,8 @@ TEST_F(DefinitionReader, ReadsNumbersByOneRule) {
         EXPECT_TRUE(Report(Text(u"NumPages=").append(text))) << ToUtf8(text);
         EXPECT_EQ(rdd->NumPages, number) << ToUtf8(text);
     }
-    EXPECT_FALSE(Report(u"NumPages=2147483648"));
-    EXPECT_EQ(Heard(), Said{"6 Overflow @ basTemplate.VB_RT_read_report"});
-    EXPECT_FALSE(Report(u"TemplateName=kept\nType=32768"));
-    EXPECT_EQ(Heard(), Said{"6 Overflow @ basTemplate.VB_RT_read_report"});
-    EXPECT_EQ(rdd->TemplateName, u"kept");
     EXPECT_TRUE(Report(u"Type=-7"));
     EXPECT_EQ(rdd->ReportType, -7);
-}
-
-TEST_F(DefinitionReader, DemandsThatTheFileGoesOnBehindReport) {
-    EXPECT_FALSE(Read(u"[Report]\nTemplateName=kept\n\n"));
-    EXPECT_EQ(Heard(), Said{kPrematurely});
-    EXPECT_EQ(rdd->TemplateName, u"kept");
-    EXPECT_FALSE(Read(u"[Report]"));
-    EXPECT_FALSE(Read(u"[Report]\nNumPages=1\n[Question]"));
-    EXPECT_EQ(Heard(), (Said{kPrematurely, kPrematurely}));
-    EXPECT_TRUE(Read(u"[Report]\n\n\n"));
-}
-
-TEST_F(DefinitionReader, ComparesTheCountsInOrder) {
-    const TextView rest = u"\n\n[Versions]\nAnswers=A\tB\tC\nSequence=1\nSequence=1\n\n[Question]\n";
-    const auto read = [&](TextView counts) { return Read(Text(u"[Report]\n").append(counts).append(rest)); };
-    EXPECT_FALSE(Read(u"[Report]\nNumQuestions=2\n\n[Question]\n"));
-    EXPECT_EQ(Heard(),
-              Said{CountMessage("The NumQuestions parameter did not match the number of questions found.")});
-    EXPECT_EQ(rdd->Questions->Count(), 1);
-    EXPECT_EQ(rdd->Versions->Sequences->Count(), 0); // nothing has been repaired
-    EXPECT_FALSE(read(u"NumQuestions=1\nNumSubtests=1\nNumVersions=2"));
-    EXPECT_EQ(Heard(),
-              Said{CountMessage("The NumSubtests parameter did not match the number of subtests found.")});
-    EXPECT_FALSE(read(u"NumQuestions=1\nNumVersions=2"));
-    EXPECT_EQ(Heard(), Said{CountMessage(
-                           "The NumVersions parameter did not match the number of test versions found.")});
-    EXPECT_FALSE(read(u"NumQuestions=1\nNumVersions=1")); // one version isn't counted
-    EXPECT_EQ(Heard(),
-              Said{CountMessage(
-                  "The number of question sequences did not match the number of test versions found.")});
 }
 
 TEST_F(DefinitionReader, FillsAndRepairsQuestions) {
@@ -228,7 +224,6 @@ TEST_F(DefinitionReader, FillsAndRepairsQuestions) {
     EXPECT_TRUE(Question(u"PartialCredit=-1\nCorrectAnswerPoints=1\n")->PartialCredit);
     EXPECT_FALSE(Question(u"PartialCredit=-1\nCorrectAnswerPoints=\t1\n")->PartialCredit);
     EXPECT_EQ(Question(u"SubjectiveField=-1\nCorrectAnswer=-5\n")->SubjectivePoints, 0);
-    EXPECT_FALSE(Question(u"MultiplesPermitted=-32768\n", {"6 Overflow @ basTemplate.VB_RT_read_question"}));
 }
 
 TEST_F(DefinitionReader, ReadsMemberships) {
@@ -246,52 +241,6 @@ TEST_F(DefinitionReader, ReadsMemberships) {
     EXPECT_EQ(shown(Question(u"SubtestNumber=2\t3,1\t-1,4\t,7\n")), "in*1 in*1 ");
     EXPECT_EQ(shown(Question(u"SubtestNumber=1,2\t1,3\n")), "in*3 out*1 ");
     EXPECT_EQ(shown(Question(u"SubtestNumber=2,3\t2\t1,2\nSubtestNumber=1,4\n")), "in*4 in*3 ");
-    for (const TextView broken : {u"2\t\t1", u"2,1\t", u"32768"})
-        EXPECT_FALSE(
-            Question(Text(u"SubtestNumber=").append(broken).append(u"\n"),
-                     {broken[0] == u'3' ? "6 Overflow @ basTemplate.VB_RT_read_question"
-                                        : "9 Subscript out of range @ basTemplate.VB_RT_read_question"}));
-}
-
-TEST_F(DefinitionReader, RefusesSequencesOfAnotherLength) {
-    const auto read = [&](TextView sections) {
-        return Read(Text(u"[Report]\nNumQuestions=2\n\n").append(sections));
-    };
-    EXPECT_FALSE(read(u"[Versions]\nSequence=1\t2\nSequence=1\t2\t3\n"));
-    EXPECT_EQ(Heard(), Said{kSequenceLength});
-    EXPECT_EQ(rdd->Versions->Sequences->Count(), 1);
-    EXPECT_FALSE(read(u"[Sequence]\nOrder=1\t2\nOrder=2\t1\n"));
-    EXPECT_EQ(Heard(), Said{kSequenceLength});
-    EXPECT_FALSE(read(u"[Versions]\nAnswers=\nSequence=\n"));
-    EXPECT_EQ(Heard(), Said{"9 Subscript out of range @ basTemplate.VB_RT_read_versions"});
-    EXPECT_FALSE(read(u"[Sequence]\nAnswer=A\n\n[Question]\n\n[Question]\n[Sequence]\nOrder=9E9\t1\n"));
-    EXPECT_EQ(Heard(), Said{"6 Overflow @ basTemplate.VB_RT_read_sequence"});
-    EXPECT_EQ(rdd->Versions->Sequences->Item(1)->Count(), 0); // a section without Order
-}
-
-TEST_F(DefinitionReader, RefusesScalesThatDontMatch) {
-    const std::string mismatch = "section of the configuration file. The number of scale items and values "
-                                 "found did not match the NumValues "
-                                 "Parameter.";
-    const auto read = [&](TextView section) {
-        return Read(Text(u"[Report]\nNumSubtests=1\n\n").append(section).append(u"\n"));
-    };
-    EXPECT_FALSE(read(u"[Subtest]\nNumValues=3\nGrades=A\tB\tC\nStartValues=2\t1"));
-    EXPECT_EQ(Heard(), Said{Invalid("[Subtest] " + mismatch)});
-    EXPECT_EQ(rdd->Subtests->Count(), 0);
-    EXPECT_TRUE(read(u"[Subtest]\nGrades=A\nStartValues=0"));
-    EXPECT_EQ(rdd->Subtests->Item(1)->GradeScale->Count(), 0);
-    EXPECT_FALSE(read(u"[SubtestScale]\nNumValues=2\nGrades=A\nStartValues=0"));
-    EXPECT_EQ(Heard(), Said{Invalid("[Scale] " + mismatch)});
-    EXPECT_EQ(rdd->SubtestGradeScale->Count(), 1);
-    EXPECT_FALSE(read(u"[Scale]\nNumValues=0\nGrades=\nStartValues="));
-    EXPECT_EQ(Heard(),
-              Said{Invalid("[Scale] section of the configuration file. The NumValues parameter was zero.")});
-    EXPECT_FALSE(read(u"[Scale]\nNumValues=1\nGrades=A"));
-    EXPECT_EQ(Heard(), Said{Invalid("[Scale] " + mismatch)});
-    EXPECT_FALSE(read(
-        u"[Scale]\nNumValues=1\nGrades=A\nStartValues=0\n\n[Scale]\nNumValues=1\nGrades=B\nStartValues=0"));
-    EXPECT_EQ(Heard(), Said{Invalid("[Scale] " + mismatch)});
 }
 
 TEST_F(DefinitionReader, DeciphersConnections) {
@@ -341,16 +290,13 @@ TEST_F(DefinitionReader, LetsTheHostReplaceWhatIsBeingRead) {
     const TextView text =
         u"[Report]\nNumSubtests=1\n\n[ScaledScore]\nScaledScoreDBConnect=a\nScaledScoreDBUser=b\n\n"
         u"[Subtest]\nScaledScoreDBPassword=c\n\n";
-    const std::string deciphering = "5 Invalid procedure call or argument @ basPublic.Decrypt";
     host->whenHeard = [&] {
         rdd->ScaledScore->DB = nullptr;
         rdd->ScaledScore = Make<clsHTDRDDScaledScore>();
         rdd->Subtests = Make<clsHTDRDDSubtests>();
     };
     EXPECT_FALSE(Read(text)); // the learning objective went to the list that the host took away
-    EXPECT_EQ(Heard(),
-              (Said{deciphering, deciphering, deciphering,
-                    CountMessage("The NumSubtests parameter did not match the number of subtests found.")}));
+    EXPECT_EQ(Heard().size(), 4U);
 
     // The last reference goes in AfterRead, and then while Clear reports.
     host->whenHeard = nullptr;
@@ -385,13 +331,9 @@ TEST_F(DefinitionReader, CopiesASharedScaleForEachObjective) {
 TEST_F(DefinitionReader, AnnouncedCountsCostNothing) {
     EXPECT_FALSE(
         Read(u"[Report]\nNumQuestions=1\nNumSubtests=2147483647\n\n[Question]\nSubtestNumber=32767,2\n"));
-    EXPECT_EQ(Heard(),
-              Said{CountMessage("The NumSubtests parameter did not match the number of subtests found.")});
+    EXPECT_EQ(Heard().size(), 1U);
     EXPECT_EQ(rdd->Questions->Item(1)->Subtests->Count(), 2147483647);
     EXPECT_TRUE(rdd->Questions->Item(1)->Subtests->Includes(32767));
-    EXPECT_FALSE(Read(u"[Report]\nNumQuestions=-5\nNumSubtests=-5\n\n[Question]\n"));
-    EXPECT_EQ(Heard(),
-              Said{CountMessage("The NumQuestions parameter did not match the number of questions found.")});
 }
 
 // This is meant: a generic key must not hold [Versions], and the reader never ends on one.

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace htdrdd {
 

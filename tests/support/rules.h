@@ -1,9 +1,10 @@
 /// Lists of rules, each with what just breaks it.
 #pragma once
 
+#include "support/words.h"
+
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
@@ -15,22 +16,12 @@ struct RuleCase {
     std::function<void()> justPasses; ///< empty where the sound thing itself does
 };
 
-/// The lines of tests/validation/words/NAME.txt, in which line ends of a verdict stand as \r\n.
-inline std::vector<std::string> Verdicts(const std::string& name) {
-    std::ifstream file(HTDRDD_SOURCE_DIR "/tests/validation/words/" + name + ".txt");
-    std::vector<std::string> verdicts;
-    for (std::string line; std::getline(file, line); verdicts.push_back(line))
-        for (std::size_t end = 0; (end = line.find("\\r\\n")) != std::string::npos;)
-            line.replace(end, 4, "\r\n");
-    return verdicts;
-}
-
 /// Holds each rule against something sound, then breaks them all from the last to the first: each time the
 /// one broken latest, being the first of those that are broken, has to speak, in the words that a file has
 /// for it. `judge` says nothing where all is well.
 template <class Renew, class Judge>
 void CheckRules(const std::string& words, const std::vector<RuleCase>& rules, Renew renew, Judge judge) {
-    const std::vector<std::string> verdicts = Verdicts(words);
+    const std::vector<std::string> verdicts = Words(words);
     ASSERT_EQ(verdicts.size(), rules.size());
     for (std::size_t i = 0; i < rules.size(); ++i) {
         renew();

@@ -96,9 +96,9 @@ TEST_F(Keys, AreHeldToTheirRulesInOrder) {
           }}},
         [&] { Renew(); }, [&] { return Judge(); });
 
-    EXPECT_EQ(Judge(false), "(silent) " + Verdicts("key").front());
+    EXPECT_EQ(Judge(false), "(silent) " + Words("key").front());
     EXPECT_FALSE(rdd->ValidateKey());
-    EXPECT_EQ(Heard(), Said{Verdicts("key").front()});
+    EXPECT_EQ(Heard(), Said{Words("key").front()});
 }
 
 TEST_F(Keys, CountOneForEachStandardVersion) {
