@@ -26,7 +26,7 @@ bool IsGeneric(TextView type) {
 /// ends, which is meant. The test goes by lines, wherever the type stands and whatever a later one says, so
 /// it may also skip a file that would end.
 bool MayNeverEnd(FileSystem& files) {
-    TextReader stream(files, kFile, basPublic::IsUnicodeFile(kFile) ? Encoding::Unicode : Encoding::CodePage);
+    TextReader stream(files, kFile, basPublic::EncodingOf(kFile));
     for (bool generic = false; !stream.AtEndOfStream();) {
         const TextView line = Trimmed(stream.ReadLine());
         if (generic && SameInUpperCase(line, u"[VERSIONS]")) return !stream.AtEndOfStream();

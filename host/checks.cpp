@@ -1,13 +1,13 @@
 #include "host/checks.h"
 
 #include "grade_scales/grade_scale_rules.h"
+#include "scaled_scores/scaled_score_members.h"
 #include "scaled_scores/scaled_score_rules.h"
 #include "validation/key_rules.h"
 #include "validation/subtest_rules.h"
 #include "validation/version_rules.h"
 
-#include <array>
-#include <tuple>
+#include <algorithm>
 
 namespace htdrdd::host {
 namespace {
@@ -60,15 +60,15 @@ bool Same(const clsHTDRDDGradeScale& a, const clsHTDRDDGradeScale& b) {
     return true;
 }
 
-auto MembersOf(const clsHTDRDDScaledScore& score) {
-    const clsHTDRDDScaledScoreDB& db = *score.DB;
-    const auto texts = std::to_array<TextView>(
-        {score.ScaledScoreName, score.LearningObjectivePrimary, score.LearningObjectiveSecondary, db.Name,
-         db.Catalog, db.Table, db.MinFieldPrimary, db.MaxFieldPrimary, db.MinFieldSecondary,
-         db.MaxFieldSecondary, db.ScoreField, db.ScoreGrade, db.Connect, db.DSNName, db.User, db.Password});
-    return std::tuple(texts, score.ScaledScoreValues, score.ScaledScoreCriteriaPrimary,
-                      score.ScaledScoreCriteriaSecondary, score.Precision, db.DBType, db.DirectoryBased,
-                      db.DSNBased, db.Valid);
+bool Same(const clsHTDRDDScaledScore& a, const clsHTDRDDScaledScore& b) {
+    const auto same = [&](const ScaledScoreRow& row) {
+        Text one;
+        Text other;
+        row.append(one, a, Where::current());
+        row.append(other, b, Where::current());
+        return one == other;
+    };
+    return &a == &b || std::all_of(kScaledScoreMembers.begin(), kScaledScoreMembers.end(), same);
 }
 
 void CheckScales(const clsHTDRDD& rdd, Runner& run) {
@@ -100,10 +100,13 @@ void CheckScores(const Ref<clsHTDRDD>& definition, Runner& run) {
     };
     check(*definition->ScaledScore, Owner::Definition);
     check(*definition->SubtestScaledScore, Owner::Objectives);
+    const clsHTDRDDScaledScore* judged = nullptr; // what several learning objectives may share
     for (std::int32_t l = 1; l <= definition->Subtests->Count(); ++l) {
-        const Ref<clsHTDRDDScaledScore> own = definition->Subtests->Item(l)->ScaledScore;
+        const auto subtest = definition->Subtests->Item(l);
+        const clsHTDRDDScaledScore& own = subtest->ScaledScore.Peek();
         const auto& original = l == 1 ? definition->ScaledScore : definition->SubtestScaledScore;
-        if (MembersOf(*own) != MembersOf(*original)) check(*own, Owner::Objective, l);
+        if (&own != judged && !Same(own, *original)) check(own, Owner::Objective, l);
+        judged = &own;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "definition_file/definition_reader.h"
 
+#include "definition_file/archive_stage.h"
 #include "definition_file/header_section.h"
 #include "definition_file/messages.h"
 #include "definition_file/question_section.h"
@@ -106,16 +107,21 @@ bool CountsMatch(const Reading& r, Where at = Where::current()) {
 
 bool VB_RT_read_template(TextView sFile, clsHTDRDD& oRDD) noexcept {
     bool result = false;
+    ArchiveStage archive;
     try {
         FileSystem& files = CurrentFileSystem();
         if (!files.FileExists(sFile)) return false;
+        const auto text = archive.Open(sFile);
+        if (!text) return false;
         oRDD.Clear();
-        const Encoding encoding = basPublic::IsUnicodeFile(sFile) ? Encoding::Unicode : Encoding::CodePage;
-        TextReader stream(files, sFile, encoding);
+        TextReader stream(files, *text, basPublic::EncodingOf(*text));
         Reading reading{oRDD, SectionLines(stream)};
-        if (!ReadSections(reading) || !CountsMatch(reading)) return false;
-        RepairDefinition(oRDD);
-        result = true;
+        if (!ReadSections(reading)) return false;
+        if (CountsMatch(reading)) {
+            RepairDefinition(oRDD);
+            result = true;
+        }
+        archive.Close();
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_template"); }
     return result;
 }

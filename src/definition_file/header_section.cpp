@@ -15,4 +15,12 @@ bool VB_RT_read_header(SectionLines& lines, Dictionary& oHeader) noexcept {
     return result;
 }
 
+void WriteHeader(TextWriter& out, const Dictionary& oHeader, Where at) {
+    out.WriteLine(u"[Header]", at);
+    for (const auto& [key, item] : oHeader.Entries()) {
+        out.Line().append(key.ToText(at)).append(u"=").append(item.ToText(at));
+        out.EndLine(at);
+    }
+}
+
 } // namespace htdrdd::basTemplate

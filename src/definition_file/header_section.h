@@ -11,4 +11,7 @@ namespace htdrdd::basTemplate {
 /// is recognised only in capitals. False after a failure, which is reported.
 [[nodiscard]] bool VB_RT_read_header(SectionLines& lines, Dictionary& oHeader) noexcept;
 
+/// Writes the section, without a blank line behind it.
+void WriteHeader(TextWriter& out, const Dictionary& oHeader, Where at = Where::current());
+
 } // namespace htdrdd::basTemplate

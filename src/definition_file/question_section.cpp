@@ -2,11 +2,13 @@
 
 #include "definition_file/section_rows.h"
 #include "foundation/basError.h"
+#include "model/basPublicAnswers.h"
 #include "platform/number.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace htdrdd::basTemplate {
@@ -24,13 +26,39 @@ struct Section {
     bool pointsSeen = false;                  ///< the section holds a SubjectivePoints key
     std::vector<Membership> memberships = {}; ///< as they come; entered at the section's end
 };
-using Row = MemberRow<Section>;
+
+/// One question on its way into a file.
+struct FiledQuestion {
+    const clsHTDRDDQuestion& question;
+    bool generic;
+    std::int32_t lNumSubtests;
+};
+using Row = MemberRow<Section, FiledQuestion>;
 
 template <auto Field>
-constexpr Row Own(TextView key) {
-    return {key, [](Section& section, TextView value, Where at) {
-                ReadValue(value, section.question.*Field, at);
-            }};
+void AppendOwn(Text& line, const FiledQuestion& filed, Where /*at*/) {
+    AppendValue(line, filed.question.*Field);
+}
+template <auto Field>
+constexpr Row Own(TextView key, bool (*isWritten)(const FiledQuestion&) = nullptr) {
+    return {key,
+            [](Section& section, TextView value, Where at) { ReadValue(value, section.question.*Field, at); },
+            AppendOwn<Field>, isWritten};
+}
+bool NotGeneric(const FiledQuestion& filed) { return !filed.generic; }
+
+/// Bounds of a numeric question. This is meant: they are filed with the region's decimal mark, and where that
+/// is a comma, reading stops at it.
+template <auto Field>
+constexpr Row Bound(TextView key) {
+    Row row = Own<Field>(key, [](const FiledQuestion& filed) {
+        return filed.question.DataType == HTDReportDataTypeNumeric &&
+               filed.question.AnswerValues->Count() == 0;
+    });
+    row.append = [](Text& line, const FiledQuestion& filed, Where /*at*/) {
+        line += RegionalText(filed.question.*Field);
+    };
+    return row;
 }
 
 /// Older files hold the boolean -1 here, which stands for HTDMultiplesPermittedAll.
@@ -66,6 +94,28 @@ void ReadMemberships(Section& section, TextView value, Where at) {
     if (section.question.Subtests->Exists(1)) section.memberships.push_back({1, {}});
 }
 
+void AppendMemberships(Text& line, const FiledQuestion& filed, Where at) {
+    const auto& memberships = *filed.question.Subtests;
+    if (memberships.Count() < filed.lNumSubtests) throw Failure(Err::NotSet, at);
+    bool first = true;
+    memberships.EachMembership([&](std::int32_t l, std::optional<bool> included) {
+        if (l > filed.lNumSubtests) return;
+        if (!included) throw Failure(Err::NotSet, at);
+        if (!*included) return;
+        if (!std::exchange(first, false)) line += u'\t';
+        AppendValue(line, l);
+        AppendValue(line += u',', memberships.WeightOf(l, at));
+    });
+}
+
+/// The answer texts aren't filed in a generic key, so that their positions stand for them.
+void AppendCorrectAnswers(Text& line, const FiledQuestion& filed, Where /*at*/) {
+    if (filed.generic && filed.question.AnswerValues->Count() > 0)
+        line += basPublic::CorrectAnswerToIndices(filed.question, 1);
+    else
+        AppendValue(line, filed.question.CorrectAnswers);
+}
+
 /// Enters the memberships in the order of their positions, so that a list in any order costs no more.
 void EnterMemberships(Section& section, Where at = Where::current()) {
     auto& entries = section.memberships;
@@ -81,12 +131,15 @@ void EnterMemberships(Section& section, Where at = Where::current()) {
 
 /// In the order of writing.
 constexpr std::array kRows{
-    Own<&clsHTDRDDQuestion::QuestionName>(u"QuestionName"),
+    Own<&clsHTDRDDQuestion::QuestionName>(u"QuestionName", NotGeneric),
     Own<&clsHTDRDDQuestion::QuestionText>(u"QuestionText"),
-    Own<&clsHTDRDDQuestion::AnswerValues>(u"AnswerValues"),
-    Own<&clsHTDRDDQuestion::AnswerCodes>(u"AnswerCodes"),
-    Row{u"DataType", [](Section& s, TextView value,
-                        Where at) { ReadValueAs<std::int16_t>(value, s.question.DataType, at); }},
+    Own<&clsHTDRDDQuestion::AnswerValues>(u"AnswerValues", NotGeneric),
+    Own<&clsHTDRDDQuestion::AnswerCodes>(u"AnswerCodes", NotGeneric),
+    Row{u"DataType",
+        [](Section& s, TextView value, Where at) {
+            ReadValueAs<std::int16_t>(value, s.question.DataType, at);
+        },
+        AppendOwn<&clsHTDRDDQuestion::DataType>},
     Own<&clsHTDRDDQuestion::MissingText>(u"MissingText"),
     Own<&clsHTDRDDQuestion::MissingValue>(u"MissingValue"),
     Own<&clsHTDRDDQuestion::BlankText>(u"BlankText"),
@@ -94,24 +147,27 @@ constexpr std::array kRows{
     Own<&clsHTDRDDQuestion::MultipleText>(u"MultipleText"),
     Own<&clsHTDRDDQuestion::MultipleValue>(u"MultipleValue"),
     Own<&clsHTDRDDQuestion::NAValue>(u"NAValue"),
-    Row{u"MultiplesPermitted", ReadMultiplesPermitted},
+    Row{u"MultiplesPermitted", ReadMultiplesPermitted, AppendOwn<&clsHTDRDDQuestion::MultiplesPermitted>},
     Own<&clsHTDRDDQuestion::IncludeGrade>(u"IncludeGrade"),
-    Own<&clsHTDRDDQuestion::IncludeTally>(u"IncludeTally"),
-    Own<&clsHTDRDDQuestion::CorrectAnswers>(u"CorrectAnswer"),
-    Own<&clsHTDRDDQuestion::CorrectCodes>(u"CorrectCode"),
-    Own<&clsHTDRDDQuestion::CorrectAnswerPoints>(u"CorrectAnswerPoints"),
+    Own<&clsHTDRDDQuestion::IncludeTally>(u"IncludeTally", NotGeneric),
+    Row{u"CorrectAnswer",
+        [](Section& s, TextView value, Where at) { ReadValue(value, s.question.CorrectAnswers, at); },
+        AppendCorrectAnswers},
+    Own<&clsHTDRDDQuestion::CorrectCodes>(u"CorrectCode", NotGeneric),
+    Own<&clsHTDRDDQuestion::CorrectAnswerPoints>(
+        u"CorrectAnswerPoints", [](const FiledQuestion& filed) { return filed.question.PartialCredit; }),
     Own<&clsHTDRDDQuestion::CorrectAnd>(u"CorrectAnd"),
     Own<&clsHTDRDDQuestion::NumCorrect>(u"NumberCorrect"),
     Own<&clsHTDRDDQuestion::CorrectPoints>(u"CorrectPoints"),
     Own<&clsHTDRDDQuestion::ExtraCredit>(u"ExtraCredit"),
     Own<&clsHTDRDDQuestion::PartialCredit>(u"PartialCredit"),
-    Own<&clsHTDRDDQuestion::IDField>(u"IDField"),
+    Own<&clsHTDRDDQuestion::IDField>(u"IDField", NotGeneric),
     Own<&clsHTDRDDQuestion::IncorrectPoints>(u"IncorrectPoints"),
     Own<&clsHTDRDDQuestion::NoResponsePoints>(u"NoResponsePoints"),
-    Row{u"SubjectivePoints", ReadSubjectivePoints},
+    Row{u"SubjectivePoints", ReadSubjectivePoints, AppendOwn<&clsHTDRDDQuestion::SubjectivePoints>},
     Own<&clsHTDRDDQuestion::SubjectiveField>(u"SubjectiveField"),
-    Own<&clsHTDRDDQuestion::MinValue>(u"MinValue"),
-    Own<&clsHTDRDDQuestion::MaxValue>(u"MaxValue"),
+    Bound<&clsHTDRDDQuestion::MinValue>(u"MinValue"),
+    Bound<&clsHTDRDDQuestion::MaxValue>(u"MaxValue"),
     Own<&clsHTDRDDQuestion::Difficulty>(u"Difficulty"),
     Own<&clsHTDRDDQuestion::Reference>(u"Reference"),
     Own<&clsHTDRDDQuestion::Topic>(u"Topic"),
@@ -119,7 +175,7 @@ constexpr std::array kRows{
     Own<&clsHTDRDDQuestion::Miscellaneous>(u"Miscellaneous"),
     Own<&clsHTDRDDQuestion::Notes>(u"Notes"),
     Own<&clsHTDRDDQuestion::Benchmark>(u"Benchmark"),
-    Row{u"SubtestNumber", ReadMemberships},
+    Row{u"SubtestNumber", ReadMemberships, AppendMemberships},
 };
 static_assert(kRows.size() == 38);
 
@@ -151,6 +207,13 @@ bool VB_RT_read_question(SectionLines& lines, std::int32_t lNumSubtests,
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_question"); }
     return result;
+}
+
+void WriteQuestion(TextWriter& out, const clsHTDRDDQuestion& oQuestion, bool bGeneric,
+                   std::int32_t lNumSubtests, Where at) {
+    out.WriteLine(u"[Question]", at);
+    WriteRows(out, kRows, FiledQuestion{oQuestion, bGeneric, lNumSubtests}, at);
+    out.WriteLine({}, at);
 }
 
 } // namespace htdrdd::basTemplate

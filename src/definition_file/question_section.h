@@ -13,4 +13,10 @@ namespace htdrdd::basTemplate {
 [[nodiscard]] bool VB_RT_read_question(SectionLines& lines, std::int32_t lNumSubtests,
                                        clsHTDRDDQuestions& oQuestions) noexcept;
 
+/// Writes one question, with its memberships in as many learning objectives, and the blank line behind it. A
+/// generic key files less, and the positions of answers in place of their texts. Fails with 91 for a
+/// membership that isn't there.
+void WriteQuestion(TextWriter& out, const clsHTDRDDQuestion& oQuestion, bool bGeneric,
+                   std::int32_t lNumSubtests, Where at = Where::current());
+
 } // namespace htdrdd::basTemplate

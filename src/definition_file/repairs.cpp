@@ -20,6 +20,19 @@ void RepairDefinition(clsHTDRDD& oRDD) {
         const Ref<const clsHTDRDDGradeScale> original = oRDD.SubtestGradeScale->Copy();
         for (std::int32_t l = 2; l <= oRDD.Subtests->Count(); ++l) giveScale(l, original);
     }
+
+    const Variant document = Ref<clsHTDRDD>(&oRDD);
+    const auto giveScore = [&](std::int32_t position, const Ref<const clsHTDRDDScaledScore>& original) {
+        const auto subtest = oRDD.Subtests->Item(position);
+        if (!subtest->ScaledScore.Peek().IsValid(document, position > 1))
+            subtest->ScaledScore.MakeCopyOf(original);
+    };
+    if (oRDD.Subtests->Count() >= 1 && oRDD.ScaledScore->IsValid(document, false))
+        giveScore(1, oRDD.ScaledScore->Copy());
+    if (oRDD.SubtestScaledScore->IsValid(document, true)) {
+        const Ref<const clsHTDRDDScaledScore> original = oRDD.SubtestScaledScore->Copy();
+        for (std::int32_t l = 2; l <= oRDD.Subtests->Count(); ++l) giveScore(l, original);
+    }
 }
 
 } // namespace htdrdd::basTemplate

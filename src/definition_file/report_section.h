@@ -13,4 +13,7 @@ namespace htdrdd::basTemplate {
 [[nodiscard]] bool VB_RT_read_report(SectionLines& lines, clsHTDRDD& oRDD, std::int32_t& lNumQuestions,
                                      std::int32_t& lNumVersions, std::int32_t& lNumSubtests) noexcept;
 
+/// Writes the section and the blank line behind it.
+void WriteReport(TextWriter& out, clsHTDRDD& oRDD);
+
 } // namespace htdrdd::basTemplate

@@ -1,27 +1,43 @@
 #include "definition_file/scale_section.h"
 
 #include "definition_file/messages.h"
+#include "definition_file/section_rows.h"
 #include "foundation/basError.h"
-#include "foundation/value_forms.h"
 
 namespace htdrdd::basTemplate {
+namespace {
+
+struct FiledScale {
+    const clsHTDRDDGradeScale& scale;
+    TextView decimalMark;
+};
+using Row = MemberRow<ScaleKeys, FiledScale>;
+
+/// In the order of writing.
+constexpr std::array kRows{
+    Row{u"ScaleName", [](ScaleKeys& keys, TextView value, Where /*at*/) { keys.scale->ScaleName = value; },
+        [](Text& line, const FiledScale& filed, Where /*at*/) { line += filed.scale.ScaleName; }},
+    Row{u"NumValues", [](ScaleKeys& keys, TextView value, Where at) { ReadValue(value, keys.numValues, at); },
+        [](Text& line, const FiledScale& filed, Where /*at*/) { AppendValue(line, filed.scale.Count()); }},
+    Row{u"Grades", [](ScaleKeys& keys, TextView value, Where /*at*/) { keys.grades = Split(value, u"\t"); },
+        [](Text& line, const FiledScale& filed, Where /*at*/) { line += filed.scale.AsString(false); }},
+    Row{u"StartValues",
+        [](ScaleKeys& keys, TextView value, Where /*at*/) { keys.startValues = Split(value, u"\t"); },
+        [](Text& line, const FiledScale& filed, Where /*at*/) {
+            line += Replaced(filed.scale.AsString(true), filed.decimalMark, u".");
+        }},
+};
+
+} // namespace
 
 bool ScaleKeys::Take(const SectionLines::Pair& pair, Where at) {
-    if (SameInUpperCase(pair.key, u"ScaleName"))
-        scale_->ScaleName = pair.value;
-    else if (SameInUpperCase(pair.key, u"NumValues"))
-        ReadValue(pair.value, numValues_, at);
-    else if (SameInUpperCase(pair.key, u"Grades"))
-        grades_ = Split(pair.value, u"\t");
-    else if (SameInUpperCase(pair.key, u"StartValues"))
-        startValues_ = Split(pair.value, u"\t");
-    else
-        return false;
-    return true;
+    const Row* const row = RowFinder(kRows).Find(pair.key);
+    if (row != nullptr) row->put(*this, pair.value, at);
+    return row != nullptr;
 }
 
-bool ScaleKeys::AddRows() {
-    return scale_->AddArrays(grades_, startValues_) && scale_->Count() == numValues_;
+bool ScaleKeys::AddRows() const {
+    return scale->AddArrays(grades, startValues) && scale->Count() == numValues;
 }
 
 bool VB_RT_read_scale(SectionLines& lines, clsHTDRDDGradeScale& oScale) noexcept {
@@ -35,7 +51,7 @@ bool VB_RT_read_scale(SectionLines& lines, clsHTDRDDGradeScale& oScale) noexcept
                             u"number of scale items and values found did not match the NumValues Parameter.");
             return false;
         }
-        if (keys.NumValues() == 0) {
+        if (keys.numValues == 0) {
             ShowInvalidFile(u"An error occurred reading the [Scale] section of the configuration file. The "
                             u"NumValues parameter was zero.");
             return false;
@@ -43,6 +59,10 @@ bool VB_RT_read_scale(SectionLines& lines, clsHTDRDDGradeScale& oScale) noexcept
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_scale"); }
     return result;
+}
+
+void WriteScaleKeys(TextWriter& out, const clsHTDRDDGradeScale& oScale, TextView sDecimalMark, Where at) {
+    WriteRows(out, kRows, FiledScale{oScale, sDecimalMark}, at);
 }
 
 } // namespace htdrdd::basTemplate

@@ -1,6 +1,8 @@
 #include "definition_file/scaled_score_section.h"
 
+#include "definition_file/section_rows.h"
 #include "foundation/basError.h"
+#include "foundation/basPublicText.h"
 
 namespace htdrdd::basTemplate {
 
@@ -24,6 +26,12 @@ bool VB_RT_read_scaled_score(SectionLines& lines, clsHTDRDDScaledScore& oScaledS
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_scaled_score"); }
     return result;
+}
+
+void WriteScaledScoreKeys(TextWriter& out, const clsHTDRDDScaledScore& oScaledScore, Where at) {
+    WriteRows(out, kScaledScoreMembers, oScaledScore, at);
+    AppendValue(out.Line().append(kScaledScoreUnicodeKey) += u'=', basPublic::IsUnicodeBuild());
+    out.EndLine(at);
 }
 
 } // namespace htdrdd::basTemplate

@@ -19,11 +19,15 @@ public:
 
 private:
     Ref<clsHTDRDDScaledScore> score_;
-    RowFinder<clsHTDRDDScaledScore, kScaledScoreMembers.size()> finder_{kScaledScoreMembers};
+    RowFinder<ScaledScoreRow, kScaledScoreMembers.size()> finder_{kScaledScoreMembers};
     bool unicode_ = false;
 };
 
 /// Fills a scaled score. False after a failure, which is reported; what was read before stays.
 [[nodiscard]] bool VB_RT_read_scaled_score(SectionLines& lines, clsHTDRDDScaledScore& oScaledScore) noexcept;
+
+/// Writes the keys, the connection's secrets enciphered.
+void WriteScaledScoreKeys(TextWriter& out, const clsHTDRDDScaledScore& oScaledScore,
+                          Where at = Where::current());
 
 } // namespace htdrdd::basTemplate

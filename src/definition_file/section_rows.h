@@ -3,17 +3,30 @@
 
 #include "definition_file/section_lines.h"
 #include "foundation/member_rows.h"
+#include "platform/text_stream.h"
 
 namespace htdrdd::basTemplate {
 
 /// Reads a section whose keys all stand in one table. Keys that don't are ignored.
-template <class Target, std::size_t N>
-void ReadRows(SectionLines& lines, const std::array<MemberRow<Target>, N>& rows, Target& target,
+template <class Target, class Source, std::size_t N>
+void ReadRows(SectionLines& lines, const std::array<MemberRow<Target, Source>, N>& rows, Target& target,
               Where at = Where::current()) {
     RowFinder finder(rows);
     lines.EnterSection();
     for (SectionLines::Pair pair; lines.NextPair(pair, at);)
         if (const auto* row = finder.Find(pair.key)) row->put(target, pair.value, at);
+}
+
+/// Writes a line for each row, where it has one.
+template <class Target, class Source, std::size_t N>
+void WriteRows(TextWriter& out, const std::array<MemberRow<Target, Source>, N>& rows, const Source& source,
+               Where at = Where::current()) {
+    for (const auto& row : rows) {
+        if (row.isWritten != nullptr && !row.isWritten(source)) continue;
+        out.Line().append(row.key) += u'=';
+        row.append(out.Line(), source, at);
+        out.EndLine(at);
+    }
 }
 
 } // namespace htdrdd::basTemplate

@@ -3,8 +3,8 @@
 #include "definition_file/messages.h"
 #include "definition_file/scale_section.h"
 #include "definition_file/scaled_score_section.h"
+#include "definition_file/section_rows.h"
 #include "foundation/basError.h"
-#include "foundation/member_rows.h"
 
 namespace htdrdd::basTemplate {
 namespace {
@@ -31,7 +31,7 @@ bool VB_RT_read_subtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexc
         const Ref<clsHTDRDDSubtests> held(&oSubtests); // a report may make the host replace it
         auto subtest = Make<clsHTDRDDSubtest>();
         RowFinder finder(kRows);
-        ScaleKeys scale(subtest->GradeScale);
+        ScaleKeys scale{subtest->GradeScale};
         ScaledScoreKeys score(subtest->ScaledScore);
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) {
@@ -40,7 +40,7 @@ bool VB_RT_read_subtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexc
             else if (!scale.Take(pair))
                 score.Take(pair);
         }
-        if (scale.NumValues() > 0 && !scale.AddRows()) {
+        if (scale.numValues > 0 && !scale.AddRows()) {
             ShowInvalidFile(u"An error occurred reading the [Subtest] section of the configuration file. The "
                             u"number of scale items and values found did not match the NumValues Parameter.");
             return false;
@@ -50,6 +50,17 @@ bool VB_RT_read_subtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexc
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_subtest"); }
     return result;
+}
+
+void WriteSubtest(TextWriter& out, const clsHTDRDDSubtest& oSubtest, const Variant& oRDD,
+                  bool bForLearningObjective, TextView sDecimalMark, Where at) {
+    out.WriteLine(u"[Subtest]", at);
+    WriteRows(out, kRows, oSubtest, at);
+    if (const auto& scale = oSubtest.GradeScale.Peek(); scale.Count() >= 1)
+        WriteScaleKeys(out, scale, sDecimalMark, at);
+    if (const auto& score = oSubtest.ScaledScore.Peek(); score.IsValid(oRDD, bForLearningObjective))
+        WriteScaledScoreKeys(out, score, at);
+    out.WriteLine({}, at);
 }
 
 } // namespace htdrdd::basTemplate

@@ -11,4 +11,9 @@ namespace htdrdd::basTemplate {
 /// nothing is added then.
 [[nodiscard]] bool VB_RT_read_subtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexcept;
 
+/// Writes one learning objective and the blank line behind it: its grade scale where it has rows, its scaled
+/// score where it can be used, with learning objectives searched in oRDD.
+void WriteSubtest(TextWriter& out, const clsHTDRDDSubtest& oSubtest, const Variant& oRDD,
+                  bool bForLearningObjective, TextView sDecimalMark, Where at = Where::current());
+
 } // namespace htdrdd::basTemplate

@@ -1,11 +1,18 @@
 #include "definition_file/versions_section.h"
 
 #include "definition_file/messages.h"
+#include "definition_file/section_rows.h"
 #include "foundation/basError.h"
-#include "foundation/value_forms.h"
 
 namespace htdrdd::basTemplate {
 namespace {
+
+/// In the order of writing; the sequences follow.
+constexpr std::array kRows{
+    PlainRow<clsHTDRDDVersions, &clsHTDRDDVersions::Question>(u"Question"),
+    PlainRow<clsHTDRDDVersions, &clsHTDRDDVersions::Answers>(u"Answers"),
+};
+constexpr TextView kSequenceKey = u"Sequence";
 
 /// Adds the positions of a list. False, with a stop message, where the sequence isn't one of all questions
 /// then.
@@ -27,13 +34,12 @@ bool VB_RT_read_versions(SectionLines& lines, clsHTDRDDVersions& oVersions,
     bool result = false;
     try {
         const Ref<clsHTDRDDVersions> held(&oVersions); // a report may make the host replace it
+        RowFinder finder(kRows);
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) {
-            if (SameInUpperCase(pair.key, u"Question")) {
-                ReadValue(pair.value, oVersions.Question, Where::current());
-            } else if (SameInUpperCase(pair.key, u"Answers")) {
-                oVersions.Answers->AddDelimitedString(pair.value, u"\t");
-            } else if (SameInUpperCase(pair.key, u"Sequence")) {
+            if (const auto* row = finder.Find(pair.key)) {
+                row->put(oVersions, pair.value, Where::current());
+            } else if (SameInUpperCase(pair.key, kSequenceKey)) {
                 auto sequence = Make<clsHTDRDDSequence>();
                 if (!AddOrder(*sequence, pair.value, lNumQuestions)) return false;
                 oVersions.Sequences->Add(std::move(sequence));
@@ -62,6 +68,18 @@ bool VB_RT_read_sequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_read_sequence"); }
     return result;
+}
+
+void WriteVersions(TextWriter& out, const clsHTDRDDVersions& oVersions) {
+    out.WriteLine(u"[Versions]");
+    WriteRows(out, kRows, oVersions);
+    if (oVersions.VType() == HTDVersionTypeSequence) {
+        for (std::int32_t l = 1; l <= oVersions.Sequences->Count(); ++l) {
+            out.Line().append(kSequenceKey).append(u"=").append(oVersions.Sequences->Item(l)->AsString());
+            out.EndLine();
+        }
+    }
+    out.WriteLine({});
 }
 
 } // namespace htdrdd::basTemplate

@@ -16,4 +16,7 @@ namespace htdrdd::basTemplate {
 [[nodiscard]] bool VB_RT_read_sequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
                                        std::int32_t lNumQuestions) noexcept;
 
+/// Writes the section and the blank line behind it. Only scrambled versions have their sequences written.
+void WriteVersions(TextWriter& out, const clsHTDRDDVersions& oVersions);
+
 } // namespace htdrdd::basTemplate

@@ -14,6 +14,7 @@ namespace {
 constexpr TextView kBoxCaption = u"Application Error";
 constexpr std::int32_t kBoxFlags = 48;
 constexpr std::int32_t kStopFlags = 152;
+constexpr std::int32_t kQuestionFlags = 290;
 
 /// "Error# 13: Type mismatch, Location: clsHTDRDD.Read; Line: 42"
 Text Told(const ErrorReport& report, TextView sLocation) {
@@ -79,6 +80,15 @@ void ShowStopMessage(TextView sCaption, TextView sMessage, const Variant& vOwner
     if (!host) throw Failure(Err::NotSet, at);
     std::array<Variant, 5> arguments{sCaption, sMessage, kStopFlags, vOwner, u"&OK"};
     host->Call(u"MsgBoxEx", arguments);
+}
+
+bool UserDeclines(TextView sCaption, TextView sQuestion, Where at) {
+    const Ref<LateBound> host = ThisThread().errorHost;
+    if (!host) throw Failure(Err::NotSet, at);
+    std::array<Variant, 6> arguments{sCaption, sQuestion, kQuestionFlags, Variant(), u"&OK", u"&Cancel"};
+    const Variant result = host->Call(u"MsgBoxEx", arguments);
+    const double answer = result.IsMissing() ? 0 : result.ToDouble(at);
+    return answer == 2 || answer == 7;
 }
 
 } // namespace htdrdd

@@ -44,4 +44,8 @@ void ReportFailure(TextView sLocation) noexcept;
 void ShowStopMessage(TextView sCaption, TextView sMessage, const Variant& vOwner = {},
                      Where at = Where::current());
 
+/// Asks a question through the host's MsgBoxEx, with the buttons "&OK" and "&Cancel". Whether the user
+/// declines: the answer is 2 or 7. Fails with 91 without a host, and as the host fails.
+[[nodiscard]] bool UserDeclines(TextView sCaption, TextView sQuestion, Where at = Where::current());
+
 } // namespace htdrdd

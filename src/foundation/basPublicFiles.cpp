@@ -2,11 +2,15 @@
 
 #include "foundation/basError.h"
 #include "foundation/basPublicText.h"
+#include "foundation/clsDZip.h"
+#include "foundation/temporary.h"
 #include "foundation/version.h"
 #include "platform/desktop.h"
 #include "platform/file_system.h"
 #include "platform/process.h"
+#include "platform/zip_archive.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -22,6 +26,16 @@ Text Hexadecimal(std::uint32_t number) {
 
 Text RandomHexadecimal(std::int32_t lUpper) {
     return Hexadecimal(static_cast<std::uint32_t>(RandomNumber(0, lUpper)));
+}
+
+bool StartsWithMark(FileSystem& files, TextView file, Where at = Where::current()) {
+    return files.Read(file, 2, at).View() == "\xFF\xFE";
+}
+
+/// What stands behind the last point of a file name; empty where there is none.
+TextView ExtensionOf(TextView name) {
+    const std::size_t point = name.rfind(u'.');
+    return point == TextView::npos ? TextView() : name.substr(point + 1);
 }
 
 } // namespace
@@ -40,7 +54,8 @@ Text FileBackup(TextView sFile, bool bDelete, std::int16_t iRetries) noexcept {
         if (!files.FileExists(sFile)) return result;
         const Text backup = Text(sFile) + u".old";
         if (files.FileExists(backup)) return u"True";
-        untilDone([&] { files.CopyFile(sFile, backup); }, [&] { return files.FileExists(backup); });
+        untilDone([&] { files.CopyFile(sFile, backup, Rights::OfSource); },
+                  [&] { return files.FileExists(backup); });
         result = backup;
         if (bDelete) untilDone([&] { files.DeleteFile(sFile); }, [&] { return !files.FileExists(sFile); });
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.FileBackup"); }
@@ -65,12 +80,31 @@ Text GetUniqueFileName(TextView sPrefix, TextView sExtension, TextView sFolder) 
     return result;
 }
 
-bool IsUnicodeFile(TextView sFile) noexcept {
+bool IsUnicodeFile(TextView sFile, TextView sPassword) noexcept {
     bool result = false;
     try {
         FileSystem& files = CurrentFileSystem();
         if (!files.FileExists(sFile)) return false;
-        result = files.Read(sFile, 2).View() == "\xFF\xFE";
+        if (!EndsLikeZip(files, sFile)) return StartsWithMark(files, sFile); // nothing to take out of it
+        const Temporary folder(GetUniqueFileName({}, {}, {}));
+        files.CreateFolder(folder.Path());
+        const Temporary copy(GetUniqueFileName({}, {}, {}));
+        files.CopyFile(sFile, copy.Path(), Rights::OwnerOnly);
+        Text file = copy.Path();
+        Array<Text> members;
+        std::int32_t number = 0;
+        if (Make<clsDZip>()->UnZip(copy.Path(), folder.Path(), members, number, sPassword)) {
+            const auto& names = members.Items();
+            const auto chosen =
+                number == 1 ? names.begin() : std::find_if(names.begin(), names.end(), [&](TextView name) {
+                    return SameText(ExtensionOf(name), ExtensionOf(FileNameOf(sFile)));
+                });
+            if (chosen != names.end()) file = BuildPath(folder.Path(), *chosen);
+        }
+        const bool isUnicode = StartsWithMark(files, file);
+        copy.Delete();
+        folder.Delete();
+        result = isUnicode;
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.IsUnicodeFile"); }
     return result;
 }

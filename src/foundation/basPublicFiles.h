@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/text.h"
+#include "platform/text_stream.h"
 
 #include <cstdint>
 
@@ -17,8 +18,14 @@ Text FileBackup(TextView sFile, bool bDelete, std::int16_t iRetries) noexcept;
 /// empty prefix is "HTDRd", an empty extension a random one. Empty after a failure.
 [[nodiscard]] Text GetUniqueFileName(TextView sPrefix, TextView sExtension, TextView sFolder) noexcept;
 
-/// Whether a file's text starts with the byte order mark of UTF-16, little-endian. False for a missing file
-/// and after a failure, which is reported.
-[[nodiscard]] bool IsUnicodeFile(TextView sFile) noexcept;
+/// Whether a file's text starts with the byte order mark of UTF-16, little-endian. For an archive that opens
+/// with the password, that is the text of its one member, of several the first with the extension of sFile,
+/// and the archive itself where none has it. False for a missing file and after a failure, which is reported.
+[[nodiscard]] bool IsUnicodeFile(TextView sFile, TextView sPassword) noexcept;
+
+/// How to open the text of a file by what IsUnicodeFile says of it.
+[[nodiscard]] inline Encoding EncodingOf(TextView sFile) noexcept {
+    return IsUnicodeFile(sFile, {}) ? Encoding::Unicode : Encoding::CodePage;
+}
 
 } // namespace htdrdd::basPublic

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 namespace htdrdd {
 
@@ -41,6 +42,26 @@ void ReadValueAs(TextView value, Enum& member, Where at) {
 }
 inline void ReadValue(TextView value, const Ref<clsHTDRDDStrings>& member, Where /*at*/) {
     member->AddDelimitedString(value, u"\t");
+}
+
+/// Writes a member in the form in which it is read: a text as it stands, a boolean as -1 or 0, a number in
+/// its invariant text, a list with tabs between its items.
+inline void AppendValue(Text& line, TextView member) { line += member; }
+inline void AppendValue(Text& line, bool member) { line += member ? u"-1" : u"0"; }
+inline void AppendValue(Text& line, double member) { line += InvariantText(member); }
+template <class Int>
+requires(std::is_integral_v<Int> && !std::is_same_v<Int, bool>) void AppendValue(Text& line, Int member) {
+    line += DecimalText(member);
+}
+template <class Enum>
+requires std::is_enum_v<Enum>
+void AppendValue(Text& line, Enum member) { line += DecimalText(static_cast<std::int64_t>(member)); }
+inline void AppendValue(Text& line, const Ref<clsHTDRDDStrings>& member) {
+    bool first = true;
+    for (const Text& item : *member) {
+        if (!std::exchange(first, false)) line += u'\t';
+        line += item;
+    }
 }
 
 } // namespace htdrdd

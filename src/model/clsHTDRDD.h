@@ -49,6 +49,17 @@ public:
     /// true result sets FileName. AfterRead is raised in any case.
     bool Read(TextView sRDDFile);
 
+    /// Saves the definition as a password-protected archive, or with bEncrypt false as plain text. The text
+    /// is written to a temporary file first; up to there the target stays untouched. Then an old target is
+    /// deleted, or kept under its name with ".old" behind it where its text is single-byte, and the new one
+    /// takes its place. bVerbose false keeps a complaint of invalid test versions from the user; true asks
+    /// whether to go on, and where the user declines, the result is false in silence. Whatever comes of it,
+    /// the document takes its grade scale and its scaled score over from learning objective 1, if that one
+    /// has any. An archived save leaves its text in the temporary folder, readable by its owner only: this is
+    /// meant. True where a file of that name is there at the end, and then FileName is set. False after a
+    /// failure, which is reported.
+    bool Save(TextView sRDDFile, bool bEncrypt = true, bool bVerbose = true);
+
     /// Registers the host object of this thread, for all definitions, until another takes its place; an empty
     /// reference goes back to Error.log. Whether a host is registered now. A second thread needs a host
     /// object of its own.
@@ -100,7 +111,20 @@ public:
     /// memberships join it. False after a failure, which is reported.
     bool AddDefaultSubtest() noexcept;
 
+    /// A new definition with what a file carries, made by a save to a temporary file and a read of it. This
+    /// object then bears the temporary file's name and the copy the name that this one had: this is meant.
+    /// Empty after a failure, which is reported.
+    [[nodiscard]] Ref<clsHTDRDD> Copy() noexcept;
+
     bool CustomHeader = false; ///< whether the host uses the header settings
+
+    /// Saves the header settings to a file of their own, and treats an old one as Save does. False without
+    /// settings, in silence, and after a failure, which is reported.
+    bool SaveHeader(TextView sHeaderFile) noexcept;
+
+    /// Resets the header settings and takes those of a file over. False in silence for a file whose first
+    /// line isn't [Header], and false after a failure, such as a file that isn't there, which is reported.
+    bool LoadHeader(TextView sHeaderFile) noexcept;
 
     /// Whether the scaled score of the learning objective at a position can be used, or with -1 that of any.
     /// False in silence where there is none. False after a failure, which is reported.

@@ -34,6 +34,13 @@ private:
     std::size_t size_ = 0;
 };
 
+/// Who may read and write a file that is made.
+enum class Rights {
+    OfSource,  ///< those of the file that is copied
+    OfNewFile, ///< what the machine gives to new files
+    OwnerOnly, ///< nobody but the owner
+};
+
 /// A file that is being written. Destroying it without Close drops what Close would have reported.
 class FileWriter {
 public:
@@ -46,7 +53,8 @@ public:
 };
 
 /// The file system. Names are literal, without wildcards, and a name with NUL fails with 52. Other failures:
-/// 53 no such file, 76 no such folder, 70 a folder or no right, 61 disk full, 57 device, 75 anything else.
+/// 53 no such file, 76 no such folder, 58 it is there already, 70 a folder or no right, 61 disk full, 57
+/// device, 75 anything else.
 class FileSystem {
 public:
     FileSystem() = default;
@@ -61,13 +69,22 @@ public:
     [[nodiscard]] virtual Bytes Read(TextView path,
                                      std::size_t limit = std::numeric_limits<std::size_t>::max(),
                                      Where at = Where::current()) = 0;
+    /// The last bytes of a file, as many as there are up to the limit.
+    [[nodiscard]] virtual Bytes ReadEnd(TextView path, std::size_t limit, Where at = Where::current()) = 0;
+    /// Makes a new file, for its owner only. Fails with 58 where there is anything under that name.
+    [[nodiscard]] virtual std::unique_ptr<FileWriter> Create(TextView path, Where at = Where::current()) = 0;
     /// Opens a file to write at its end; it is made where it is missing.
     [[nodiscard]] virtual std::unique_ptr<FileWriter> OpenForAppending(TextView path,
                                                                        Where at = Where::current()) = 0;
-    /// Copies a file over another or to a new name.
-    virtual void CopyFile(TextView from, TextView to, Where at = Where::current()) = 0;
+    /// Copies a file to a new name, or over another, which keeps its own rights. After a failure there is no
+    /// part of a copy, and what was there still is.
+    virtual void CopyFile(TextView from, TextView to, Rights rights, Where at = Where::current()) = 0;
     /// Deletes a file, also a read-only one.
     virtual void DeleteFile(TextView path, Where at = Where::current()) = 0;
+    /// Makes a folder for its owner only. Fails with 58 where there is anything under that name.
+    virtual void CreateFolder(TextView path, Where at = Where::current()) = 0;
+    /// Deletes a folder with all that is in it. Links are deleted, not followed.
+    virtual void DeleteFolder(TextView path, Where at = Where::current()) = 0;
     /// The folder for temporary files.
     [[nodiscard]] virtual Text TemporaryFolder(Where at = Where::current()) = 0;
 };

@@ -4,6 +4,9 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <optional>
+#include <stdlib.h>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -51,11 +54,19 @@ Failure FileFailure(int error, TextView path, Where at) {
     }
 }
 
+constexpr mode_t kOfOwner = 0600;
+constexpr mode_t kOfNewFile = 0666; // less what the user's mask takes away
+constexpr mode_t kOfOwnersFolder = 0700;
+
 class Descriptor {
 public:
-    Descriptor(TextView path, int flags, Where at) {
+    Descriptor(TextView path, int flags, Where at, mode_t mode = kOfNewFile) {
         // O_NONBLOCK: a pipe must not hold up whoever opens it.
-        fd_ = ::open(Native(path, at).c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
+        fd_ = ::open(Native(path, at).c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, mode);
+        if (fd_ < 0) throw FileFailure(errno, path, at);
+    }
+    /// Takes over what is open; -1 is what the last call failed with.
+    Descriptor(int fd, TextView path, Where at) : fd_(fd) {
         if (fd_ < 0) throw FileFailure(errno, path, at);
     }
     Descriptor(const Descriptor&) = delete;
@@ -71,17 +82,55 @@ private:
     int fd_ = -1;
 };
 
+/// A regular file opened to read; anything else fails with 70.
+class Source {
+public:
+    Source(TextView path, Where at) : file_(path, O_RDONLY, at), path_(path) {
+        if (::fstat(file_.Get(), &status_) != 0) throw FileFailure(errno, path, at);
+        if (!S_ISREG(status_.st_mode)) throw Failure(Err::PermissionDenied, at);
+    }
+    [[nodiscard]] int Get() const noexcept { return file_.Get(); }
+    [[nodiscard]] mode_t Mode() const noexcept { return status_.st_mode & ALLPERMS; }
+    [[nodiscard]] std::size_t Size() const noexcept { return static_cast<std::size_t>(status_.st_size); }
+
+    /// The bytes from a place on.
+    [[nodiscard]] Bytes Read(std::size_t place, std::size_t limit, Where at) const {
+        // One byte more than the file has, so that its end shows; the size may be out of date or not be told.
+        Bytes bytes(std::min(limit, Size() - std::min(place, Size()) + 1));
+        std::size_t filled = 0;
+        while (filled < limit) {
+            if (filled == bytes.View().size()) bytes.Grow(std::min(limit, 2 * filled + kLeastRoom));
+            const ssize_t got = ::pread(file_.Get(), bytes.Data() + filled, bytes.View().size() - filled,
+                                        static_cast<off_t>(place + filled));
+            if (got < 0 && errno == EINTR) continue;
+            if (got < 0) throw FileFailure(errno, path_, at);
+            if (got == 0) break;
+            filled += static_cast<std::size_t>(got);
+        }
+        bytes.Shorten(filled);
+        return bytes;
+    }
+
+private:
+    Descriptor file_;
+    TextView path_;
+    struct stat status_ {};
+};
+
+void WriteAll(const Descriptor& file, std::string_view bytes, TextView path, Where at) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file.Get(), bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) throw FileFailure(errno, path, at);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
 class PosixWriter final : public FileWriter {
 public:
-    PosixWriter(TextView path, int flags, Where at) : path_(path), file_(path, flags, at) {}
-    void Write(std::string_view bytes, Where at) override {
-        while (!bytes.empty()) {
-            const ssize_t written = ::write(file_.Get(), bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) throw FileFailure(errno, path_, at);
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-    }
+    PosixWriter(TextView path, int flags, mode_t mode, Where at)
+        : path_(path), file_(path, O_WRONLY | O_CREAT | flags, at, mode) {}
+    void Write(std::string_view bytes, Where at) override { WriteAll(file_, bytes, path_, at); }
     void Close(Where at) override {
         if (const int error = file_.Close()) throw FileFailure(error, path_, at);
     }
@@ -91,45 +140,102 @@ private:
     Descriptor file_;
 };
 
+/// A copy in the making. One that is to replace a file grows beside it, with that one's rights, and takes its
+/// place when it is whole. One that isn't finished is deleted.
+class Copy {
+public:
+    Copy(const Source& source, TextView to, Rights rights, Where at)
+        : source_(source), path_(to), target_(Native(to, at)) {
+        struct stat old {};
+        replaces_ = ::stat(target_.c_str(), &old) == 0 && S_ISREG(old.st_mode);
+        if (std::error_code error; replaces_) { // a link stays one
+            if (auto file = std::filesystem::canonical(target_, error); !error) target_ = file.native();
+        }
+        draft_ = replaces_ ? target_ + ".XXXXXX" : target_;
+        file_.emplace(replaces_ ? ::mkostemp(draft_.data(), O_CLOEXEC)
+                                : ::open(draft_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                                         rights == Rights::OfNewFile ? kOfNewFile : kOfOwner),
+                      path_, at);
+        // As near as the rights can be had here.
+        if (replaces_ || rights == Rights::OfSource)
+            ::fchmod(file_->Get(), replaces_ ? old.st_mode & ALLPERMS : source.Mode());
+    }
+    Copy(const Copy&) = delete;
+    Copy& operator=(const Copy&) = delete;
+    ~Copy() {
+        if (file_ && !finished_) ::unlink(draft_.c_str());
+    }
+
+    void Fill(Where at) const {
+        constexpr std::size_t kPiece = std::size_t{1} << 30U;
+        ssize_t sent = 0;
+        do { // within the system
+            sent = ::sendfile(file_->Get(), source_.Get(), nullptr, kPiece);
+        } while (sent > 0 || (sent < 0 && errno == EINTR));
+        if (sent == 0) return;
+        if (errno != EINVAL && errno != ENOSYS) throw FileFailure(errno, path_, at);
+        WriteAll(*file_, source_.Read(0, std::numeric_limits<std::size_t>::max(), at).View(), path_, at);
+    }
+
+    void Finish(Where at) {
+        if (const int error = file_->Close()) throw FileFailure(error, path_, at);
+        if (replaces_ && ::rename(draft_.c_str(), target_.c_str()) != 0) throw FileFailure(errno, path_, at);
+        finished_ = true;
+    }
+
+private:
+    const Source& source_;
+    TextView path_;
+    std::string target_;
+    std::string draft_;
+    bool replaces_ = false;
+    std::optional<Descriptor> file_;
+    bool finished_ = false;
+};
+
 class PosixFileSystem final : public FileSystem {
 public:
     bool FileExists(TextView path) override { return IsOfType(path, S_IFREG); }
     bool FolderExists(TextView path) override { return IsOfType(path, S_IFDIR); }
 
     Bytes Read(TextView path, std::size_t limit, Where at) override {
-        const Descriptor file(path, O_RDONLY, at);
-        struct stat status {};
-        if (::fstat(file.Get(), &status) != 0) throw FileFailure(errno, path, at);
-        if (!S_ISREG(status.st_mode)) throw Failure(Err::PermissionDenied, at);
-        // One byte more than the file has, so that its end shows; the size may be out of date or not be told.
-        Bytes bytes(std::min(limit, static_cast<std::size_t>(status.st_size) + 1));
-        std::size_t filled = 0;
-        while (filled < limit) {
-            if (filled == bytes.View().size()) bytes.Grow(std::min(limit, 2 * filled + kLeastRoom));
-            const ssize_t got = ::read(file.Get(), bytes.Data() + filled, bytes.View().size() - filled);
-            if (got < 0 && errno == EINTR) continue;
-            if (got < 0) throw FileFailure(errno, path, at);
-            if (got == 0) break;
-            filled += static_cast<std::size_t>(got);
-        }
-        bytes.Shorten(filled);
-        return bytes;
+        return Source(path, at).Read(0, limit, at);
+    }
+
+    Bytes ReadEnd(TextView path, std::size_t limit, Where at) override {
+        const Source source(path, at);
+        return source.Read(source.Size() - std::min(limit, source.Size()), limit, at);
+    }
+
+    std::unique_ptr<FileWriter> Create(TextView path, Where at) override {
+        return std::make_unique<PosixWriter>(path, O_EXCL, kOfOwner, at);
     }
 
     std::unique_ptr<FileWriter> OpenForAppending(TextView path, Where at) override {
-        return std::make_unique<PosixWriter>(path, O_WRONLY | O_CREAT | O_APPEND, at);
+        return std::make_unique<PosixWriter>(path, O_APPEND, kOfNewFile, at);
     }
 
-    void CopyFile(TextView from, TextView to, Where at) override {
-        std::error_code error;
-        std::filesystem::copy_file(Native(from, at), Native(to, at),
-                                   std::filesystem::copy_options::overwrite_existing, error);
-        if (error && (FolderExists(from) || FolderExists(to))) throw Failure(Err::PermissionDenied, at);
-        if (error) throw FileFailure(error.value(), FileExists(from) ? to : from, at);
+    void CopyFile(TextView from, TextView to, Rights rights, Where at) override {
+        const Source source(from, at);
+        if (FolderExists(to)) throw Failure(Err::PermissionDenied, at);
+        Copy copy(source, to, rights, at);
+        copy.Fill(at);
+        copy.Finish(at);
     }
 
     void DeleteFile(TextView path, Where at) override {
         if (::unlink(Native(path, at).c_str()) != 0) throw FileFailure(errno, path, at);
+    }
+
+    void CreateFolder(TextView path, Where at) override {
+        if (::mkdir(Native(path, at).c_str(), kOfOwnersFolder) != 0) throw FileFailure(errno, path, at);
+    }
+
+    void DeleteFolder(TextView path, Where at) override {
+        if (!FolderExists(path)) throw Failure(Err::PathNotFound, at);
+        std::error_code error;
+        std::filesystem::remove_all(Native(path, at), error);
+        if (error) throw FileFailure(error.value(), path, at);
     }
 
     Text TemporaryFolder(Where at) override {

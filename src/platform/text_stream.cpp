@@ -23,6 +23,8 @@ std::size_t FindLineFeed(TextView text) noexcept {
     return TextView::npos;
 }
 
+constexpr std::size_t kFlushed = std::size_t{1} << 16U; // units
+
 [[maybe_unused]] Text FromLittleEndian(std::string_view bytes) {
     Text text(bytes.size() / 2, u'\0');
     for (std::size_t i = 0; i < text.size(); ++i)
@@ -58,6 +60,28 @@ TextView TextReader::ReadLine(Where at) {
     rest_.remove_prefix(feed == TextView::npos ? rest_.size() : feed + 1);
     if (feed != TextView::npos && line.ends_with(u'\r')) line.remove_suffix(1);
     return line;
+}
+
+TextWriter::TextWriter(FileSystem& files, TextView path, Where at) : file_(files.Create(path, at)) {
+    text_.reserve(kFlushed + kFlushed / 4);
+    text_ = u'\uFEFF';
+}
+
+void TextWriter::EndLine(Where at) {
+    text_ += u"\r\n";
+    if (text_.size() >= kFlushed) Flush(at);
+}
+
+void TextWriter::Flush(Where at) {
+    if constexpr (std::endian::native == std::endian::big)
+        for (char16_t& unit : text_) unit = static_cast<char16_t>(unit << 8 | unit >> 8);
+    file_->Write({reinterpret_cast<const char*>(text_.data()), text_.size() * sizeof(char16_t)}, at);
+    text_.clear();
+}
+
+void TextWriter::Close(Where at) {
+    Flush(at);
+    file_->Close(at);
 }
 
 TextAppender::TextAppender(FileSystem& files, TextView path, Where at)

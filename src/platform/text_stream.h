@@ -35,6 +35,28 @@ private:
     TextView rest_;
 };
 
+/// A new text file being written, in Unicode and for its owner only. Lines end in carriage return and line
+/// feed.
+class TextWriter {
+public:
+    TextWriter(FileSystem& files, TextView path, Where at = Where::current());
+    /// The line being written, at the end of what isn't in the file yet: append to it and call EndLine.
+    [[nodiscard]] Text& Line() noexcept { return text_; }
+    void EndLine(Where at = Where::current());
+    void WriteLine(TextView line, Where at = Where::current()) {
+        text_ += line;
+        EndLine(at);
+    }
+    /// Only a writer that is closed has written all.
+    void Close(Where at = Where::current());
+
+private:
+    void Flush(Where at);
+
+    std::unique_ptr<FileWriter> file_;
+    Text text_; ///< what isn't in the file yet
+};
+
 /// Appends to a text file in the code page; the file is made where it is missing.
 class TextAppender {
 public:

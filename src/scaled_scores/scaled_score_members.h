@@ -1,6 +1,7 @@
 /// The members of a scaled score as they stand in files.
 #pragma once
 
+#include "foundation/basPublicCipher.h"
 #include "foundation/member_rows.h"
 #include "scaled_scores/clsHTDRDDScaledScore.h"
 
@@ -16,9 +17,22 @@ constexpr ScaledScoreRow OfScore(TextView key) {
 }
 template <auto Field>
 constexpr ScaledScoreRow OfDB(TextView key) {
-    return {key, [](clsHTDRDDScaledScore& score, TextView value, Where at) {
+    return {key,
+            [](clsHTDRDDScaledScore& score, TextView value, Where at) {
                 ReadValue(value, (*score.DB).*Field, at);
+            },
+            [](Text& line, const clsHTDRDDScaledScore& score, Where /*at*/) {
+                AppendValue(line, (*score.DB).*Field);
             }};
+}
+/// Written enciphered. What is read is put in as it stands and deciphered at the end.
+template <auto Field>
+constexpr ScaledScoreRow OfSecret(TextView key) {
+    ScaledScoreRow row = OfDB<Field>(key);
+    row.append = [](Text& line, const clsHTDRDDScaledScore& score, Where /*at*/) {
+        line += basPublic::Encrypt((*score.DB).*Field);
+    };
+    return row;
 }
 
 /// In the order of writing.
@@ -43,9 +57,9 @@ inline constexpr std::array kScaledScoreMembers{
     OfDB<&clsHTDRDDScaledScoreDB::DSNBased>(u"ScaledScoreDBDSNBased"),
     OfDB<&clsHTDRDDScaledScoreDB::DirectoryBased>(u"ScaledScoreDBDirectoryBased"),
     OfDB<&clsHTDRDDScaledScoreDB::DSNName>(u"ScaledScoreDBDSNName"),
-    OfDB<&clsHTDRDDScaledScoreDB::User>(u"ScaledScoreDBUser"), // this and the two below stand enciphered
-    OfDB<&clsHTDRDDScaledScoreDB::Password>(u"ScaledScoreDBPassword"),
-    OfDB<&clsHTDRDDScaledScoreDB::Connect>(u"ScaledScoreDBConnect"),
+    OfSecret<&clsHTDRDDScaledScoreDB::User>(u"ScaledScoreDBUser"),
+    OfSecret<&clsHTDRDDScaledScoreDB::Password>(u"ScaledScoreDBPassword"),
+    OfSecret<&clsHTDRDDScaledScoreDB::Connect>(u"ScaledScoreDBConnect"),
 };
 static_assert(kScaledScoreMembers.size() == 23);
 

@@ -50,8 +50,9 @@ TEST_F(FileRoutines, TemporaryNamesAreFreeAndUnicodeFilesAreMarked) {
     EXPECT_NE(GetUniqueFileName(u"", u"", u"/in"), u"");
     EXPECT_TRUE(files.takenNames == -1 && files.files.empty());
     files.files = {{u"/unicode", Unicode(u"")}, {u"/one", "\xFF"}, {u"/other", "\xFE\xFF"}, {u"/empty", ""}};
-    EXPECT_TRUE(IsUnicodeFile(u"/unicode"));
-    for (const TextView file : {u"/one", u"/other", u"/empty", u"/none"}) EXPECT_FALSE(IsUnicodeFile(file));
+    EXPECT_TRUE(IsUnicodeFile(u"/unicode", {}));
+    for (const TextView file : {u"/one", u"/other", u"/empty", u"/none"})
+        EXPECT_FALSE(IsUnicodeFile(file, {}));
     files.failingOperation = files.operations + 1;
     EXPECT_EQ(GetUniqueFileName(u"", u"", u""), u"");
     EXPECT_EQ(Heard(), Said{"70 Permission denied @ basPublic.GetUniqueFileName"});

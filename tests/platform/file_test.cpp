@@ -37,8 +37,8 @@ TEST_F(MachineFiles, FailuresTellWhatIsWrong) {
         return std::vector{FailureOf([&] { return files.Read(path); }),
                            FailureOf([&] { return files.OpenForAppending(path); }),
                            FailureOf([&] { files.DeleteFile(path); }),
-                           FailureOf([&] { files.CopyFile(path, Put(u"other", "")); }),
-                           FailureOf([&] { files.CopyFile(file, path); })};
+                           FailureOf([&] { files.CopyFile(path, Put(u"other", ""), Rights::OfNewFile); }),
+                           FailureOf([&] { files.CopyFile(file, path, Rights::OfNewFile); })};
     };
     EXPECT_EQ(failures(none + u"/x"), (std::vector{76, 76, 76, 76, 76}));
     EXPECT_EQ(failures(file + u"/x"), (std::vector{76, 76, 76, 76, 76}));
@@ -56,7 +56,7 @@ TEST_F(MachineFiles, AreReadCopiedAppendedToAndDeleted) {
     EXPECT_FALSE(files.FileExists(Path(u"*")) || files.FileExists(Path(u"")) ||
                  files.FileExists(odd + u'\0') || files.FolderExists(odd));
     const Text log = Put(u"log", "older content");
-    files.CopyFile(odd, log);
+    files.CopyFile(odd, log, Rights::OfNewFile);
     for (const TextView line : {u"é€", u"☺"}) {
         TextAppender appender(files, log);
         appender.WriteLine(line);

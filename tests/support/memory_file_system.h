@@ -3,6 +3,9 @@
 
 #include "platform/file_system.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <set>
@@ -27,23 +30,42 @@ public:
     bool FolderExists(TextView path) override { return folders.count(Text(path)) != 0; }
     Bytes Read(TextView path, std::size_t limit, Where at) override {
         Count(at);
-        const std::string content = Find(path, at).substr(0, limit);
-        Bytes bytes(content.size());
-        content.copy(bytes.Data(), content.size());
-        return bytes;
+        return BytesOf(Find(path, at).substr(0, limit));
+    }
+    Bytes ReadEnd(TextView path, std::size_t limit, Where at) override {
+        Count(at);
+        const std::string& content = Find(path, at);
+        return BytesOf(content.substr(content.size() - std::min(limit, content.size())));
+    }
+    std::unique_ptr<FileWriter> Create(TextView path, Where at) override {
+        Count(at);
+        if (files.count(Text(path)) != 0 || FolderExists(path)) throw Failure(Err::FileExists, at);
+        return std::make_unique<Writer>(*this, Place(path, at));
     }
     std::unique_ptr<FileWriter> OpenForAppending(TextView path, Where at) override {
         Count(at);
         return std::make_unique<Writer>(*this, files[Text(path)]);
     }
-    void CopyFile(TextView from, TextView to, Where at) override {
+    void CopyFile(TextView from, TextView to, Rights rights, Where at) override {
         Count(at, refusedCopies-- > 0);
-        files[Text(to)] = Find(from, at);
+        const std::string content = Find(from, at);
+        const bool isNew = files.count(Text(to)) == 0;
+        EXPECT_TRUE(isNew || rights != Rights::OwnerOnly);
+        Place(to, at) = content;
     }
     void DeleteFile(TextView path, Where at) override {
         Count(at, refusedDeletions-- > 0);
         Find(path, at);
         files.erase(Text(path));
+    }
+    void CreateFolder(TextView path, Where at) override {
+        Count(at);
+        if (!folders.insert(Text(path)).second) throw Failure(Err::FileExists, at);
+    }
+    void DeleteFolder(TextView path, Where at) override {
+        Count(at);
+        if (folders.erase(Text(path)) == 0) throw Failure(Err::PathNotFound, at);
+        std::erase_if(files, [&](const auto& file) { return FolderOf(file.first) == path; });
     }
     Text TemporaryFolder(Where at) override {
         Count(at);
@@ -67,6 +89,16 @@ private:
 
     void Count(Where at, bool refused = false) {
         if (++operations == failingOperation || refused) throw Failure(failure, at);
+    }
+    static Bytes BytesOf(std::string_view content) {
+        Bytes bytes(content.size());
+        content.copy(bytes.Data(), content.size());
+        return bytes;
+    }
+    std::string& Place(TextView path, Where at) {
+        const TextView folder = FolderOf(path);
+        if (!folder.empty() && folder != u"/" && !FolderExists(folder)) throw Failure(Err::PathNotFound, at);
+        return files[Text(path)];
     }
     std::string& Find(TextView path, Where at) {
         const auto file = files.find(Text(path));

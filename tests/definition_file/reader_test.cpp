@@ -261,18 +261,7 @@ TEST_F(DefinitionReader, DeciphersConnections) {
     EXPECT_EQ(Heard(), Said{"5 Invalid procedure call or argument @ basPublic.Decrypt"});
 }
 
-TEST_F(DefinitionReader, ReportsFailuresOfTheFileAndWithoutHost) {
-    ASSERT_TRUE(Report(u"NumPages=1"));
-    // The encoding test first: taken for single bytes, the text has no section line. Then the reading.
-    for (const char* place : {"basPublic.IsUnicodeFile", "basTemplate.VB_RT_read_template"}) {
-        files.failingOperation = files.operations + (place[3] == 'P' ? 1 : 2);
-        rdd->NumPages = 7;
-        EXPECT_FALSE(rdd->Read(u"/exam.rdd"));
-        EXPECT_EQ(Heard(), Said{std::string("70 Permission denied @ ") + place});
-        EXPECT_EQ(rdd->NumPages, 0);
-    }
-    files.failingOperation = 0;
-
+TEST_F(DefinitionReader, ReportsFailuresWithoutHost) {
     // A stop message without a host is a call of nothing; what is logged is that failure.
     rdd->SetError(nullptr);
     EXPECT_FALSE(Read(u"[Report]\n\n"));

@@ -1,0 +1,43 @@
+/// Password-protected archives.
+#pragma once
+
+#include "platform/array.h"
+#include "platform/object.h"
+#include "platform/text.h"
+
+#include <array>
+#include <cstdint>
+
+namespace htdrdd {
+
+/// Makes an archive of files, and files of an archive. What the zip library refuses gives false in silence; a
+/// failure, such as a full disk, is reported under the member's name and gives false.
+class clsDZip final : public Object {
+public:
+    [[nodiscard]] TextView ClassName() const noexcept override { return u"clsDZip"; }
+
+    bool Cancel = false; ///< only stored
+
+    /// Puts files into an archive, with a password unless EncryptStr is empty. NoDirectoryNames false stores
+    /// them under their whole paths. An old file of the archive's name is deleted when the new archive is
+    /// complete; up to there it stays as it is. Whether the archive is there at the end.
+    bool Zip(TextView ZipName, const Array<Text>& ZipFiles, TextView EncryptStr = {},
+             bool NoDirectoryNames = true) const noexcept;
+    bool Zip(TextView ZipName, TextView ZipFile, TextView EncryptStr = {},
+             bool NoDirectoryNames = true) const noexcept;
+
+    /// Takes the members of an archive out into a folder, under the last parts of their names. ExtractedFiles
+    /// gets those names, from 1, counted by the member: that of one that can't be taken out stays empty, and
+    /// where there are any the list is shortened to ExtractedFilesCount from its end: this is meant. It has
+    /// no storage where none came out, and stays as it is where ZipName is no archive. True if there are
+    /// members and all came out. Overwrite false fails a member whose file is there.
+    bool UnZip(TextView ZipName, TextView DestinationDir, Array<Text>& ExtractedFiles,
+               std::int32_t& ExtractedFilesCount, TextView DecryptStr = {}, bool Overwrite = true,
+               bool NoDirectoryNames = true, bool MessageCallBack = true) const noexcept;
+
+    /// What the codes of zip programs mean; codes without a text have an empty one.
+    static const std::array<TextView, 51> mUnzipMessages;
+    static const std::array<TextView, 22> mZipMessages;
+};
+
+} // namespace htdrdd
