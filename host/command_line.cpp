@@ -1,9 +1,11 @@
 #include "host/command_line.h"
 
 #include "foundation/version.h"
+#include "host/convert/convert.h"
+#include "host/header/header.h"
 #include "host/output.h"
-#include "host/show.h"
-#include "host/validate.h"
+#include "host/show/show.h"
+#include "host/validate/validate.h"
 
 #include <CLI/CLI.hpp>
 
@@ -15,8 +17,9 @@ namespace {
 
 using Command = std::function<ExitCode()>;
 
-constexpr const char* kExitCodes = "Exit codes: 0 fine, 1 findings, 2 usage, 3 a file that is missing or was "
-                                   "refused, 4 an internal failure.";
+constexpr const char* kExitCodes =
+    "Exit codes: 0 fine, 1 findings or a save that was declined, 2 usage, 3 a file "
+    "that is missing, was refused or can't be written, 4 an internal failure.";
 
 void AddShow(CLI::App& app, ShowOptions& options, Command& command) {
     CLI::App* const show = app.add_subcommand("show", "Show what definition files hold");
@@ -37,10 +40,41 @@ void AddValidate(CLI::App& app, ValidateOptions& options, Command& command) {
     validate->callback([&] { command = [&] { return Validate(options); }; });
 }
 
+void AddSaveFlags(CLI::App* app, SaveOptions& options) {
+    app->add_flag("--plain", options.plain, "Save as plain text, not as an archive");
+    app->add_flag("--yes", options.yes, "Save without a question, even with test versions that are invalid");
+}
+
+void AddConvert(CLI::App& app, ConvertOptions& options, Command& command) {
+    CLI::App* const convert =
+        app.add_subcommand("convert", "Save a definition of any age in the current form");
+    convert->add_option("IN", options.file, "Definition file")->required()->type_name("");
+    convert->add_option("OUT", options.save.file, "File to write")->required()->type_name("");
+    AddSaveFlags(convert, options.save);
+    convert->callback([&] { command = [&] { return Convert(options); }; });
+}
+
+void AddHeader(CLI::App& app, HeaderOptions& options, Command& command) {
+    CLI::App* const header =
+        app.add_subcommand("header", "Exchange the settings of the report header with header files");
+    header->require_subcommand(1);
+    const auto add = [&](const char* name, const char* description, auto run) {
+        CLI::App* const sub = header->add_subcommand(name, description);
+        sub->add_option("DEFINITION", options.definition, "Definition file")->required()->type_name("");
+        sub->add_option("HEADER", options.header, "Header file")->required()->type_name("");
+        sub->callback([&options, &command, run] { command = [&options, run] { return run(options); }; });
+        return sub;
+    };
+    add("save", "Write the header settings of a definition to a header file", SaveHeader);
+    CLI::App* const load = add("load", "Save a definition with the settings of a header file", LoadHeader);
+    load->add_option("-o", options.save.file, "File to write")->required()->type_name("OUT");
+    AddSaveFlags(load, options.save);
+}
+
 } // namespace
 
 ExitCode RunCommandLine(int argc, char** argv) {
-    CLI::App app("Shows and judges answer keys of tests and surveys", "htdrdd");
+    CLI::App app("Shows, judges and saves answer keys of tests and surveys", "htdrdd");
     app.set_version_flag("--version", "htdrdd " + std::string(kRelease), "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.footer(kExitCodes);
@@ -52,6 +86,10 @@ ExitCode RunCommandLine(int argc, char** argv) {
     AddShow(app, showOptions, command);
     ValidateOptions validateOptions;
     AddValidate(app, validateOptions, command);
+    ConvertOptions convertOptions;
+    AddConvert(app, convertOptions, command);
+    HeaderOptions headerOptions;
+    AddHeader(app, headerOptions, command);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

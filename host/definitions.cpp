@@ -19,18 +19,31 @@ Ref<clsHTDRDD> Definitions::Read(const std::string& file) {
     auto definition = Make<clsHTDRDD>();
     complaints_->Forget();
     if (definition->Read(path)) return definition;
-    anyRefused_ = true;
-    Complain(Harmless(path) + " was refused: " + Reason(path));
+    Refuse(path, "it is not a definition.");
     return {};
 }
 
-/// The library is silent on what isn't there and on what doesn't begin like a definition.
-const char* Definitions::Reason(TextView file) const {
+bool Definitions::ReadHeader(clsHTDRDD& definition, const std::string& file) {
+    const Text path = FromNativePath(file);
+    complaints_->Forget();
+    // The library reports a file that isn't there; one sentence is enough.
+    if (CurrentFileSystem().FileExists(path) && definition.LoadHeader(path)) return true;
+    Refuse(path, "it is not a header file.");
+    return false;
+}
+
+void Definitions::Refuse(TextView path, const char* otherwise) {
+    anyRefused_ = true;
+    Complain(Harmless(path) + " was refused: " + Reason(path, otherwise));
+}
+
+/// The library is silent on what isn't there and on what doesn't begin like a file of its kind.
+const char* Definitions::Reason(TextView path, const char* otherwise) const {
     if (complaints_->Unreadable()) return "it can't be read.";
     if (complaints_->Any()) return "it is broken.";
-    if (CurrentFileSystem().FileExists(file)) return "it is not a definition.";
+    if (CurrentFileSystem().FileExists(path)) return otherwise;
     std::error_code error;
-    if (std::filesystem::exists(ToNativePath(file), error)) return "it is no plain file.";
+    if (std::filesystem::exists(ToNativePath(path), error)) return "it is no plain file.";
     return error ? "it can't be read." : "it doesn't exist.";
 }
 

@@ -1,4 +1,4 @@
-/// Reading the definitions that a command is given.
+/// Reading the files that a command is given.
 #pragma once
 
 #include "host/complaints.h"
@@ -8,7 +8,7 @@
 
 namespace htdrdd::host {
 
-/// Reads definition files for a command, with the library's complaints on standard error.
+/// Reads definition files and header files for a command, with the library's complaints on standard error.
 class Definitions {
 public:
     /// Registers the host object of this thread.
@@ -21,11 +21,16 @@ public:
     /// The definition of a file that was named on the command line. A file that is refused gives an empty
     /// reference, and one sentence says why.
     [[nodiscard]] Ref<clsHTDRDD> Read(const std::string& file);
+    /// Takes the header settings of a header file over, or says why it was refused.
+    [[nodiscard]] bool ReadHeader(clsHTDRDD& definition, const std::string& file);
     /// Whether any file was refused.
     [[nodiscard]] bool AnyRefused() const noexcept { return anyRefused_; }
+    /// The host object.
+    [[nodiscard]] Complaints& Heard() const noexcept { return *complaints_; }
 
 private:
-    [[nodiscard]] const char* Reason(TextView file) const;
+    void Refuse(TextView path, const char* otherwise);
+    [[nodiscard]] const char* Reason(TextView path, const char* otherwise) const;
 
     Ref<Complaints> complaints_ = Make<Complaints>();
     bool anyRefused_ = false;

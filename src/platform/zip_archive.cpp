@@ -14,6 +14,8 @@ constexpr std::size_t kFarthestEndRecord =
 constexpr zip_uint64_t kLargestMember = zip_uint64_t{1} << 30U;
 constexpr std::size_t kPiece = std::size_t{1} << 18U;
 constexpr zip_uint32_t kDeflateLevel = 5;
+constexpr zip_uint32_t kOwnersFile = 0100600U
+                                     << 16U; // a plain file for its owner, as Unix programs unpack it
 
 struct Closer {
     void operator()(zip_t* archive) const noexcept { ::zip_discard(archive); }
@@ -73,7 +75,15 @@ Text ZipReader::FileName(std::int32_t member) const {
 }
 
 bool ZipReader::Read(std::int32_t member, const std::function<void(std::string_view)>& piece) const {
-    Handle<zip_file_t> file(::zip_fopen_index(archive_->zip.get(), static_cast<zip_uint64_t>(member), 0));
+    zip_t* const zip = archive_->zip.get();
+    const auto index = static_cast<zip_uint64_t>(member);
+    zip_stat_t status;
+    // libzip 1.7 leaks when it is asked to open what it can't read.
+    if (::zip_stat_index(zip, index, 0, &status) != 0 ||
+        ::zip_compression_method_supported(status.comp_method, 0) == 0 ||
+        ::zip_encryption_method_supported(status.encryption_method, 0) == 0)
+        return false;
+    Handle<zip_file_t> file(::zip_fopen_index(zip, index, 0));
     if (!file) return false;
     Bytes room(kPiece);
     zip_uint64_t total = 0;
@@ -113,7 +123,8 @@ bool ZipWriter::Add(TextView name, Bytes content) {
     if (member < 0) return false;
     static_cast<void>(source.release());
     const auto index = static_cast<zip_uint64_t>(member);
-    return ::zip_set_file_compression(zip, index, ZIP_CM_DEFLATE, kDeflateLevel) == 0 &&
+    return ::zip_file_set_external_attributes(zip, index, 0, ZIP_OPSYS_UNIX, kOwnersFile) == 0 &&
+           ::zip_set_file_compression(zip, index, ZIP_CM_DEFLATE, kDeflateLevel) == 0 &&
            (archive_->password.empty() ||
             ::zip_file_set_encryption(zip, index, ZIP_EM_TRAD_PKWARE, archive_->password.c_str()) == 0);
 }

@@ -90,19 +90,22 @@ private:
     void Count(Where at, bool refused = false) {
         if (++operations == failingOperation || refused) throw Failure(failure, at);
     }
+    bool HasFolder(TextView path) {
+        const TextView folder = FolderOf(path);
+        return folder.empty() || folder == u"/" || FolderExists(folder);
+    }
     static Bytes BytesOf(std::string_view content) {
         Bytes bytes(content.size());
         content.copy(bytes.Data(), content.size());
         return bytes;
     }
     std::string& Place(TextView path, Where at) {
-        const TextView folder = FolderOf(path);
-        if (!folder.empty() && folder != u"/" && !FolderExists(folder)) throw Failure(Err::PathNotFound, at);
+        if (!HasFolder(path)) throw Failure(Err::PathNotFound, at);
         return files[Text(path)];
     }
     std::string& Find(TextView path, Where at) {
         const auto file = files.find(Text(path));
-        if (file == files.end()) throw Failure(Err::FileNotFound, at);
+        if (file == files.end()) throw Failure(HasFolder(path) ? Err::FileNotFound : Err::PathNotFound, at);
         return file->second;
     }
 };

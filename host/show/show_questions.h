@@ -1,7 +1,7 @@
 /// The questions of a definition as a person reads them.
 #pragma once
 
-#include "host/show_objectives.h"
+#include "host/show/show_objectives.h"
 
 namespace htdrdd::host {
 

@@ -1,9 +1,9 @@
-#include "host/show.h"
+#include "host/show/show.h"
 
 #include "host/definitions.h"
 #include "host/output.h"
-#include "host/show_json.h"
-#include "host/show_summary.h"
+#include "host/show/show_json.h"
+#include "host/show/show_summary.h"
 
 namespace htdrdd::host {
 

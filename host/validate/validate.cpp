@@ -1,10 +1,10 @@
-#include "host/validate.h"
+#include "host/validate/validate.h"
 
 #include "host/definitions.h"
 #include "host/output.h"
-#include "host/progress.h"
-#include "host/validate_json.h"
-#include "host/validate_text.h"
+#include "host/validate/progress.h"
+#include "host/validate/validate_json.h"
+#include "host/validate/validate_text.h"
 
 namespace htdrdd::host {
 namespace {

@@ -1,7 +1,7 @@
-#include "host/show_objectives.h"
+#include "host/show/show_objectives.h"
 
-#include "host/numbers.h"
 #include "host/output.h"
+#include "host/show/numbers.h"
 #include "host/table.h"
 
 #include <algorithm>

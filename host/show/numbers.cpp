@@ -1,4 +1,4 @@
-#include "host/numbers.h"
+#include "host/show/numbers.h"
 
 #include "foundation/HTDValue.h"
 

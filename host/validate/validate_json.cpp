@@ -1,8 +1,8 @@
-#include "host/validate_json.h"
+#include "host/validate/validate_json.h"
 
-#include "host/checks.h"
 #include "host/json_text.h"
 #include "host/output.h"
+#include "host/validate/checks.h"
 
 #include <nlohmann/json.hpp>
 

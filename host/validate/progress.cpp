@@ -1,4 +1,4 @@
-#include "host/progress.h"
+#include "host/validate/progress.h"
 
 #include "host/output.h"
 #include "host/terminal.h"

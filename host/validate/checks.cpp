@@ -1,4 +1,4 @@
-#include "host/checks.h"
+#include "host/validate/checks.h"
 
 #include "grade_scales/grade_scale_rules.h"
 #include "scaled_scores/scaled_score_members.h"

@@ -1,8 +1,8 @@
-#include "host/show_summary.h"
+#include "host/show/show_summary.h"
 
 #include "host/output.h"
-#include "host/show_objectives.h"
-#include "host/show_questions.h"
+#include "host/show/show_objectives.h"
+#include "host/show/show_questions.h"
 #include "host/table.h"
 
 #include <utility>

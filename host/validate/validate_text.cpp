@@ -1,8 +1,8 @@
-#include "host/validate_text.h"
+#include "host/validate/validate_text.h"
 
-#include "host/checks.h"
 #include "host/output.h"
 #include "host/table.h"
+#include "host/validate/checks.h"
 
 namespace htdrdd::host {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/show_json.h"
+#include "host/show/show_json.h"
 
 #include "host/json_text.h"
 

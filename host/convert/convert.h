@@ -1,0 +1,15 @@
+/// htdrdd convert: a definition of any age in the current form.
+#pragma once
+
+#include "host/saving.h"
+
+namespace htdrdd::host {
+
+struct ConvertOptions {
+    std::string file;
+    SaveOptions save;
+};
+
+[[nodiscard]] ExitCode Convert(const ConvertOptions& options);
+
+} // namespace htdrdd::host

@@ -1,0 +1,48 @@
+#include "host/saving.h"
+
+#include "host/output.h"
+#include "platform/file_system.h"
+
+namespace htdrdd::host {
+namespace {
+
+/// Runs one save of the library, which gives whether it wrote the file.
+template <class Save>
+ExitCode SaveAs(const std::string& file, const char* form, Complaints& complaints, Save save) {
+    FileSystem& files = CurrentFileSystem();
+    const Text path = FromNativePath(file);
+    const Text backup = path + u".old";
+    const bool fileStood = files.FileExists(path);
+    const bool backupStood = files.FileExists(backup);
+    complaints.Forget();
+    // A save counts an old file that it couldn't replace as written.
+    const bool saved = save(path) && !complaints.Failed();
+    const bool backupMade = !backupStood && files.FileExists(backup);
+
+    if (saved) Print(Harmless(path) + " was saved as " + form + ".\n");
+    if (backupMade) Print(Harmless(backup) + " keeps the older file.\n");
+    if (saved) return ExitCode::Fine;
+    if (complaints.Declined()) {
+        Complain(Harmless(path) + " was not saved; --yes saves it with its test versions as they are.");
+        return ExitCode::Findings;
+    }
+    const bool lost = fileStood && !backupMade && !files.FileExists(path);
+    Complain(Harmless(path) + " was not saved: it can't be written" +
+             (lost ? ", and what stood there is gone." : "."));
+    return ExitCode::Refused;
+}
+
+} // namespace
+
+ExitCode SaveDefinition(clsHTDRDD& definition, const SaveOptions& options, Complaints& complaints) {
+    complaints.AnswerYes(options.yes);
+    return SaveAs(options.file, options.plain ? "plain text" : "an archive", complaints,
+                  [&](TextView path) { return definition.Save(path, !options.plain, true); });
+}
+
+ExitCode SaveHeaderFile(clsHTDRDD& definition, const std::string& file, Complaints& complaints) {
+    return SaveAs(file, "a header file", complaints,
+                  [&](TextView path) { return definition.SaveHeader(path); });
+}
+
+} // namespace htdrdd::host

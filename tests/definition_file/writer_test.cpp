@@ -1,0 +1,282 @@
+#include "definition_file/archive_stage.h"
+#include "foundation/clsDZip.h"
+#include "model/basPublicHeader.h"
+#include "support/session.h"
+#include "support/telling.h"
+#include "support/words.h"
+
+#include <gmock/gmock.h>
+
+namespace htdrdd::test {
+namespace {
+
+class DefinitionWriter : public Session {
+protected:
+    /// Names of the files in the temporary folder.
+    std::vector<Text> Temporaries() const {
+        std::vector<Text> names;
+        for (const auto& [path, content] : files.files)
+            if (path.starts_with(u"/tmp/")) names.push_back(path);
+        EXPECT_EQ(files.folders.size(), 1U) << "a temporary folder is left";
+        return names;
+    }
+    std::string Exam() { return files.files[u"/exam.rdd"]; }
+};
+
+constexpr TextView kSmall = u"[Report]\nNumQuestions=1\nNumSubtests=1\n\n[Subtest]\nSubtestName=All\n\n"
+                            u"[Question]\nQuestionName=Q1\nSubtestNumber=1\n";
+constexpr TextView kBrokenVersions = u"[Report]\nNumQuestions=1\nNumVersions=2\n\n[Versions]\nQuestion=1\n"
+                                     u"Answers=A\tA\n\n[Question]\nIDField=1\n";
+
+// tests/words/saved.txt was compared with the format's description by hand.
+TEST_F(DefinitionWriter, WritesEveryKeyInItsPlace) {
+    ASSERT_TRUE(Read(uR"([Report]
+TemplateName= T 
+NumQuestions=3
+NumVersions=2
+NumSubtests=2
+NumPages=2
+Type=1
+Notes=N=
+
+[Subtest]
+SubtestName=Overall
+Benchmark=70.5
+ScaleName=S
+NumValues=2
+Grades=A	B
+StartValues=90.5	0
+ScaledScoreName=Norm
+ScaledScoreCriteriaPrimary=1
+ScaledScoreValues=2
+ScaledScorePrecision=1
+ScaledScoreDBMinFieldPrimary=min
+ScaledScoreDBMaxFieldPrimary=max
+ScaledScoreDBScoreField=score
+ScaledScoreDBType=3
+ScaledScoreDBDSNBased=1
+
+[Subtest]
+SubtestName=Part
+
+[SubtestScale]
+NumValues=1
+Grades=C
+StartValues=0
+
+[Versions]
+Question=3
+Answers=A	B
+Sequence=1	2	3
+Sequence=2	1	3
+
+[Question]
+QuestionName=Q1
+AnswerValues=A	B	C
+AnswerCodes=1	2	3
+MissingValue=-.5
+MultiplesPermitted=-1
+IncludeGrade=1
+CorrectAnswer=B
+CorrectAnswerPoints=2
+CorrectPoints=2
+PartialCredit=-1
+SubtestNumber=1,1	2,.25
+
+[Question]
+QuestionName=Q2
+DataType=1
+SubjectiveField=1
+SubjectivePoints=5
+MaxValue=.5
+
+[Question]
+QuestionName=ID
+IDField=1
+
+)"));
+    const auto& db = rdd->Subtests->Item(1)->ScaledScore->DB;
+    db->Connect = u"server";
+    db->User = u"me";
+    files.files[u"/exam.rdd"] = "\xFF\xFE";
+    ASSERT_TRUE(rdd->Save(u"/exam.rdd", false, false));
+    EXPECT_EQ(Heard().size(), 1U) << "the versions can't be graded together";
+    Text text;
+    for (const std::string& line : Words("saved")) text.append(FromUtf8(line)).append(u"\r\n");
+    EXPECT_EQ(Exam(), Unicode(text));
+    EXPECT_TRUE(Temporaries().empty());
+}
+
+TEST_F(DefinitionWriter, FilesAGenericKeyByThePositionsOfAnswers) {
+    ASSERT_TRUE(
+        Read(u"[Report]\nNumQuestions=3\nType=3\n\n[Question]\nQuestionName=Q1\nIncludeGrade=1\n"
+             u"SubjectiveField=1\nAnswerValues=A\tB\nAnswerCodes=1\t2\nCorrectAnswer=(A,B)\tA\n[Question]\n"
+             u"[Question]\nSubjectiveField=1\nCorrectAnswer=7\n"));
+    ASSERT_TRUE(rdd->Save(u"/exam.rdd", false));
+    // This is meant: a question that counts twice is announced twice, so that the file isn't read.
+    EXPECT_FALSE(rdd->Read(u"/exam.rdd"));
+    EXPECT_THAT(Heard(), ::testing::ElementsAre(::testing::HasSubstr("NumQuestions parameter")));
+    ASSERT_EQ(rdd->Questions->Count(), 2);
+    EXPECT_EQ(rdd->Questions->Item(1)->CorrectAnswers->AsString(u"|"), u"(1,2)");
+    EXPECT_EQ(rdd->Questions->Item(1)->QuestionName, u"");
+    EXPECT_EQ(rdd->Questions->Item(2)->CorrectAnswers->AsString(u"|"), u"7");
+    rdd->Questions->Item(1)->SubjectiveField = false;
+    EXPECT_TRUE(rdd->Save(u"/exam.rdd") && rdd->Read(u"/exam.rdd"));
+}
+
+TEST_F(DefinitionWriter, WritesNumbersByTheRegionOnlyInBounds) {
+    ThisThread().region.decimalMark = u',';
+    ThisThread().region.groupMark = u'.';
+    ASSERT_TRUE(
+        Read(u"[Report]\nNumQuestions=1\n\n[Scale]\nNumValues=2\nGrades=A,\tB\nStartValues=92,5\t0\n\n"
+             u"[Question]\nDataType=1\nMinValue=1.5\nCorrectPoints=1.5\n"));
+    ASSERT_TRUE(rdd->Save(u"/exam.rdd", false) && rdd->Read(u"/exam.rdd"));
+    EXPECT_EQ(rdd->GradeScale->AsString(true, u"|"), u"92.5|0");
+    EXPECT_EQ(rdd->GradeScale->AsString(false, u"|"), u"A,|B");
+    EXPECT_EQ(rdd->Questions->Item(1)->CorrectPoints, 1.5);
+    EXPECT_EQ(rdd->Questions->Item(1)->MinValue, 1) << "this is meant: a comma ends the number";
+}
+
+TEST_F(DefinitionWriter, KeepsAnOldFileOfSingleBytes) {
+    const std::string old = ToUtf8(kSmall);
+    ASSERT_TRUE(ReadBytes(old));
+    for (const bool bEncrypt : {true, false, true, true}) EXPECT_TRUE(rdd->Save(u"/exam.rdd", bEncrypt));
+    EXPECT_EQ(files.files.count(u"/exam.rdd.old.old"), 0U);
+    EXPECT_EQ(files.files[u"/exam.rdd.old"], old);
+    const std::string current = Exam();
+    files.files[u"/exam.rdd"] = "older still";
+    EXPECT_TRUE(rdd->Save(u"/exam.rdd", false));
+    EXPECT_EQ(files.files[u"/exam.rdd.old"], old) << "the first backup stays";
+    EXPECT_TRUE(rdd->Read(u"/exam.rdd"));
+    EXPECT_EQ(Temporaries().size(), 3U) << "this is meant: the text of each archive stays";
+    for (const Text& file : Temporaries()) EXPECT_EQ(files.files[file], Exam());
+}
+
+TEST_F(DefinitionWriter, AsksBeforeItSavesInvalidVersions) {
+    ASSERT_TRUE(Read(kBrokenVersions));
+    const auto scale = Make<clsHTDRDDGradeScale>();
+    scale->AddDelimitedStrings(u"A", u"0");
+    rdd->Subtests->Item(1)->GradeScale = scale;
+    rdd->FileName = u"name";
+    const std::string before = Exam();
+    const std::string question = "Invalid Test Versions: Would you like to continue the save operation "
+                                 "without test versions? [290 &OK&Cancel]";
+    for (const std::int32_t answer : {2, 7}) {
+        host->answer = answer;
+        EXPECT_FALSE(rdd->Save(u"/exam.rdd"));
+        EXPECT_THAT(Heard(), ::testing::ElementsAre(::testing::HasSubstr("ValidateVersions"), question));
+        EXPECT_TRUE(Exam() == before && Temporaries().empty() && rdd->FileName == u"name");
+        EXPECT_EQ(rdd->GradeScale->Count(), 1) << "the document has changed all the same";
+    }
+    host->answer = 1;
+    EXPECT_TRUE(rdd->Save(u"/exam.rdd", false));
+    EXPECT_EQ(Heard().size(), 2U);
+    EXPECT_TRUE(rdd->Save(u"/exam.rdd", false, false));
+    EXPECT_THAT(Heard(), ::testing::ElementsAre(::testing::StartsWith("(silent) ")));
+    EXPECT_TRUE(rdd->Read(u"/exam.rdd"));
+    EXPECT_EQ(rdd->Versions->Answers->Count(), 2) << "this is meant: nothing is removed";
+
+    rdd->SetError(nullptr);
+    EXPECT_FALSE(rdd->Save(u"/none.rdd")) << "nobody to ask";
+    rdd->SetError(host);
+    EXPECT_EQ(files.files.count(u"/none.rdd"), 0U);
+    rdd->Questions->Item(1)->Subtests->RemoveAll();
+    EXPECT_FALSE(rdd->Save(u"/none.rdd", true, false));
+    EXPECT_EQ(Heard().back(), kNotSet + "basTemplate.VB_RT_save_template") << "a membership is missing";
+}
+
+/// Archives that others made.
+class ArchivedDefinition : public DefinitionWriter {
+protected:
+    bool ReadPacked(const std::vector<std::string>& texts, TextView password = {}) {
+        std::vector<Text> names;
+        for (const std::string& text : texts) {
+            names.push_back(u"/" + DecimalText(static_cast<std::int64_t>(names.size())));
+            files.files[names.back()] = text;
+        }
+        EXPECT_TRUE(Make<clsDZip>()->Zip(u"/exam.rdd", Array<Text>(std::move(names)), password));
+        return rdd->Read(u"/exam.rdd");
+    }
+};
+
+TEST_F(ArchivedDefinition, IsReadIfItHoldsOneText) {
+    EXPECT_TRUE(ReadPacked({Unicode(kSmall)}));
+    EXPECT_TRUE(ReadPacked({ToUtf8(kSmall)}, basTemplate::ArchivePassword()));
+    EXPECT_EQ(rdd->Subtests->Item(1)->SubtestName, u"All");
+    rdd->NumPages = 7;
+    EXPECT_FALSE(ReadPacked({Unicode(kSmall), Unicode(kSmall)}));
+    EXPECT_EQ(Heard(), Said{"Invalid File: The specified file is invalid or corrupt. Operation aborted. "
+                            "[152 &OK]"});
+    EXPECT_EQ(rdd->NumPages, 7);
+    // What doesn't open counts as plain text, and that is refused by its first line, in silence.
+    EXPECT_FALSE(ReadPacked({Unicode(kSmall)}, u"another"));
+    EXPECT_EQ(rdd->NumPages, 0);
+    const int operations = std::exchange(files.operations, 0);
+    EXPECT_FALSE(ReadPacked({""}));
+    EXPECT_EQ(Heard(), Said{"76 Path not found @ basTemplate.VB_RT_read_template"});
+    EXPECT_GT(files.operations, operations) << "this is meant: ten tries";
+    EXPECT_TRUE(Temporaries().empty());
+}
+
+TEST_F(ArchivedDefinition, NeedsATemporaryFolder) {
+    files.failingOperation = 2; // the name, the folder
+    rdd->NumPages = 7;
+    EXPECT_FALSE(Read(kSmall));
+    EXPECT_THAT(Heard(), ::testing::ElementsAre(::testing::MatchesRegex(
+                             "Folder Creation Error: Unable to create the temporary folder: /tmp/HTDRd.*\r\n"
+                             "\r\nOperation aborted. \\[152 &OK\\]")));
+    EXPECT_EQ(rdd->NumPages, 7);
+}
+
+TEST_F(ArchivedDefinition, NeverGivesOtherDataFromADamagedOne) {
+    ASSERT_TRUE(Read(kSmall) && rdd->Save(u"/exam.rdd"));
+    const Text whole = Told(*rdd);
+    const std::string archive = Exam();
+    std::size_t reads = 0;
+    const auto check = [&](const std::string& bytes, std::size_t place) {
+        const bool same = !ReadBytes(bytes) || Told(*rdd) == whole;
+        reads += rdd->Questions->Count() > 0 ? 1U : 0U;
+        EXPECT_TRUE(same) << "at " << place;
+        Heard();
+    };
+    for (std::size_t size = 1; size < archive.size(); ++size) check(archive.substr(0, size), size);
+    EXPECT_EQ(reads, 0U);
+    for (std::size_t bit = 0; bit < 8 * archive.size(); ++bit) {
+        std::string damaged = archive;
+        damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ 1 << bit % 8);
+        check(damaged, bit / 8);
+    }
+    EXPECT_GT(reads, 100U) << "some bits tell nothing of the content";
+    EXPECT_EQ(Temporaries().size(), 1U);
+}
+
+TEST_F(DefinitionWriter, HeaderSettingsGoThroughAFileOfTheirOwn) {
+    rdd->Header->SetItem(u"_r1c1_fld_text", u" a=b ");
+    rdd->Header->SetItem(u"own", u"1");
+    const Text told = Told(*rdd);
+    files.files[u"/header"] = "[header]\r\n_HEADER_COLS=1\r\n\r\n_HEADER_COLS=2\r\n";
+    EXPECT_TRUE(rdd->SaveHeader(u"/header") && rdd->SaveHeader(u"/header"));
+    EXPECT_EQ(files.files.size(), 2U) << "a backup of the single bytes, and nothing else";
+    EXPECT_TRUE(files.files[u"/header"].starts_with(Unicode(u"[Header]\r\n_R1C1_FLD_TEXT= a=b \r\n")));
+    EXPECT_TRUE(files.files[u"/header"].ends_with(Unicode(u"\nown=1\r\n").substr(2)));
+    rdd->Header->SetItem(u"more", u"1");
+    EXPECT_TRUE(rdd->LoadHeader(u"/header"));
+    EXPECT_EQ(Told(*rdd), told);
+
+    EXPECT_TRUE(rdd->LoadHeader(u"/header.old"));
+    EXPECT_EQ(rdd->Header->Count(), 31);
+    EXPECT_EQ(rdd->Header->Item(u"_HEADER_COLS").ToText(), u"1") << "a blank line ends it";
+    files.files[u"/other"] = "[Headers]\r\nkey=1\r\n";
+    for (const TextView file : {u"/other", u"/none"}) {
+        rdd->Header->SetItem(u"_HEADER_COLS", u"1");
+        EXPECT_FALSE(rdd->LoadHeader(file));
+        EXPECT_EQ(rdd->Header->Item(u"_HEADER_COLS").ToText(), u"3") << "defaults";
+    }
+    EXPECT_EQ(Heard(), Said{"53 File not found @ clsHTDRDD.LoadHeader"});
+    rdd->Header->RemoveAll();
+    EXPECT_FALSE(rdd->SaveHeader(u"/none"));
+    EXPECT_EQ(files.files.count(u"/none"), 0U);
+}
+
+} // namespace
+} // namespace htdrdd::test
