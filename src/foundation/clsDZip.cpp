@@ -13,17 +13,24 @@
 namespace htdrdd {
 namespace {
 
+/// A new file; none where its name won't do or is taken. Other failures aren't the name's fault.
+std::unique_ptr<FileWriter> CreateUnder(FileSystem& files, TextView path) {
+    try {
+        return files.Create(path);
+    } catch (const Failure& failure) {
+        const auto number = static_cast<Err>(failure.Number());
+        if (number != Err::BadFileName && number != Err::FileExists) throw;
+        return {};
+    }
+}
+
 /// Takes one member out. False where its content or its name won't do.
 bool Extract(FileSystem& files, const ZipReader& archive, std::int32_t member, TextView path,
              bool Overwrite) {
-    std::unique_ptr<FileWriter> file;
-    IgnoreFailure([&] {
-        if (Overwrite && files.FileExists(path)) files.DeleteFile(path);
-        file = files.Create(path);
-    });
+    if (Overwrite && files.FileExists(path)) files.DeleteFile(path);
+    const auto file = CreateUnder(files, path);
     if (!file) return false;
     if (!archive.Read(member, [&](std::string_view piece) { file->Write(piece); })) {
-        file.reset();
         IgnoreFailure([&] { files.DeleteFile(path); });
         return false;
     }

@@ -60,6 +60,7 @@ public:
     }
     void CreateFolder(TextView path, Where at) override {
         Count(at);
+        if (path.empty() || !HasFolder(path)) throw Failure(Err::PathNotFound, at);
         if (!folders.insert(Text(path)).second) throw Failure(Err::FileExists, at);
     }
     void DeleteFolder(TextView path, Where at) override {
@@ -100,6 +101,7 @@ private:
         return bytes;
     }
     std::string& Place(TextView path, Where at) {
+        if (path.empty()) throw Failure(Err::FileNotFound, at);
         if (!HasFolder(path)) throw Failure(Err::PathNotFound, at);
         return files[Text(path)];
     }
