@@ -103,14 +103,15 @@ bool VB_RT_save_template(TextView sFile, clsHTDRDD& oRDD, bool bEncrypt, bool bV
             files.DeleteFile(temporary);
             return false;
         }
-        MakeWay(sFile, password);
+        const TargetFile target(sFile);
+        target.MakeWay(password);
         // This is meant: the text behind an archive stays in the temporary folder, and only whether there is
         // a file at the end makes the result.
         if (bEncrypt)
             Make<clsDZip>()->Zip(sFile, temporary, password);
         else
-            PutInPlace(temporary, sFile);
-        result = files.FileExists(sFile);
+            target.Put(temporary);
+        result = target.IsThere();
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_save_template"); }
     return result;
 }

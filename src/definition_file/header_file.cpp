@@ -14,14 +14,14 @@ bool clsHTDRDD::SaveHeader(TextView sHeaderFile) noexcept {
     try {
         const Ref<clsHTDRDD> self(this); // a report may make the host release it
         if (Header->Count() == 0) return false;
-        FileSystem& files = CurrentFileSystem();
         const Temporary temporary(basPublic::GetUniqueFileName({}, {}, {}));
-        TextWriter out(files, temporary.Path());
+        TextWriter out(CurrentFileSystem(), temporary.Path());
         basTemplate::WriteHeader(out, *Header);
         out.Close();
-        basTemplate::MakeWay(sHeaderFile, {});
-        basTemplate::PutInPlace(temporary.Path(), sHeaderFile);
-        result = files.FileExists(sHeaderFile);
+        const basTemplate::TargetFile target(sHeaderFile);
+        target.MakeWay({});
+        target.Put(temporary.Path());
+        result = target.IsThere();
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDD.SaveHeader"); }
     return result;
 }

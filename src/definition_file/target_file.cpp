@@ -10,20 +10,29 @@ constexpr std::int16_t kRetries = 20;
 
 } // namespace
 
-void MakeWay(TextView sFile, TextView sPassword, Where at) {
+TargetFile::TargetFile(TextView sFile) : sFile_(sFile), mode_(CurrentFileSystem().ModeOf(sFile)) {}
+
+void TargetFile::MakeWay(TextView sPassword, Where at) const {
     FileSystem& files = CurrentFileSystem();
-    if (!files.FileExists(sFile)) return;
-    if (basPublic::IsUnicodeFile(sFile, sPassword))
-        files.DeleteFile(sFile, at);
+    if (!files.FileExists(sFile_)) return;
+    if (basPublic::IsUnicodeFile(sFile_, sPassword))
+        files.DeleteFile(sFile_, at);
     else // older readers can't take the new one
-        basPublic::FileBackup(sFile, true, kRetries);
+        basPublic::FileBackup(sFile_, true, kRetries);
 }
 
-void PutInPlace(TextView sTemporary, TextView sFile, Where at) {
+void TargetFile::Put(TextView sTemporary, Where at) const {
     FileSystem& files = CurrentFileSystem();
     if (!files.FileExists(sTemporary)) return;
-    files.CopyFile(sTemporary, sFile, Rights::OfNewFile, at);
+    files.CopyFile(sTemporary, sFile_, Rights::OfNewFile, at);
     files.DeleteFile(sTemporary, at);
+}
+
+bool TargetFile::IsThere() const {
+    FileSystem& files = CurrentFileSystem();
+    if (!files.FileExists(sFile_)) return false;
+    if (mode_) IgnoreFailure([&] { files.SetMode(sFile_, *mode_); }); // as near as they can be had here
+    return true;
 }
 
 } // namespace htdrdd::basTemplate

@@ -4,15 +4,30 @@
 #include "platform/failure.h"
 #include "platform/text.h"
 
+#include <cstdint>
+#include <optional>
+
 namespace htdrdd::basTemplate {
 
-/// Makes way for a new file where there is an old one: deletes it where its text is Unicode, which for an
-/// archive takes the password, and keeps it under its name with ".old" behind it otherwise. A backup that
-/// can't be made, or is there already, leaves the old file. Fails to the caller.
-void MakeWay(TextView sFile, TextView sPassword, Where at = Where::current());
+/// A file that is saved, perhaps where there is an old one. Members fail to the caller.
+class TargetFile {
+public:
+    explicit TargetFile(TextView sFile);
 
-/// Puts a temporary file in its place, if it is there, and deletes it. Fails to the caller; the place then
-/// has no part of a file.
-void PutInPlace(TextView sTemporary, TextView sFile, Where at = Where::current());
+    /// Makes way: deletes an old file where its text is Unicode, which for an archive takes the password, and
+    /// keeps it under its name with ".old" behind it otherwise. Where a backup can't be made, or is there
+    /// already, the old file stays.
+    void MakeWay(TextView sPassword, Where at = Where::current()) const;
+    /// Puts a temporary file in the place, if it is there, and deletes it. After a failure there is no part
+    /// of a file.
+    void Put(TextView sTemporary, Where at = Where::current()) const;
+    /// Whether the file is there. It gets the rights of the old one: a key that only its owner could read
+    /// stays so.
+    [[nodiscard]] bool IsThere() const;
+
+private:
+    TextView sFile_;
+    std::optional<std::uint32_t> mode_; ///< of the old file
+};
 
 } // namespace htdrdd::basTemplate

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace htdrdd {
@@ -81,6 +82,9 @@ public:
     virtual void CopyFile(TextView from, TextView to, Rights rights, Where at = Where::current()) = 0;
     /// Deletes a file, also a read-only one.
     virtual void DeleteFile(TextView path, Where at = Where::current()) = 0;
+    /// Who may do what with a file, in the system's own terms; none where it isn't there.
+    [[nodiscard]] virtual std::optional<std::uint32_t> ModeOf(TextView path) = 0;
+    virtual void SetMode(TextView path, std::uint32_t mode, Where at = Where::current()) = 0;
     /// Makes a folder for its owner only. Fails with 58 where there is anything under that name.
     virtual void CreateFolder(TextView path, Where at = Where::current()) = 0;
     /// Deletes a folder with all that is in it. Links are deleted, not followed.

@@ -227,6 +227,16 @@ public:
         if (::unlink(Native(path, at).c_str()) != 0) throw FileFailure(errno, path, at);
     }
 
+    std::optional<std::uint32_t> ModeOf(TextView path) override {
+        struct stat status {};
+        if (!FileExists(path) || ::stat(Native(path, {}).c_str(), &status) != 0) return {};
+        return status.st_mode & ALLPERMS;
+    }
+
+    void SetMode(TextView path, std::uint32_t mode, Where at) override {
+        if (::chmod(Native(path, at).c_str(), mode) != 0) throw FileFailure(errno, path, at);
+    }
+
     void CreateFolder(TextView path, Where at) override {
         if (::mkdir(Native(path, at).c_str(), kOfOwnersFolder) != 0) throw FileFailure(errno, path, at);
     }

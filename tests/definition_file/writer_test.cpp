@@ -140,7 +140,9 @@ TEST_F(DefinitionWriter, WritesNumbersByTheRegionOnlyInBounds) {
 TEST_F(DefinitionWriter, KeepsAnOldFileOfSingleBytes) {
     const std::string old = ToUtf8(kSmall);
     ASSERT_TRUE(ReadBytes(old));
+    files.modes[u"/exam.rdd"] = 0600;
     for (const bool bEncrypt : {true, false, true, true}) EXPECT_TRUE(rdd->Save(u"/exam.rdd", bEncrypt));
+    EXPECT_EQ(files.modes[u"/exam.rdd"], 0600U) << "a key stays as secret as it was";
     EXPECT_EQ(files.files.count(u"/exam.rdd.old.old"), 0U);
     EXPECT_EQ(files.files[u"/exam.rdd.old"], old);
     const std::string current = Exam();

@@ -2,9 +2,12 @@
 #include "support/cases.h"
 #include "support/session.h"
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <stdlib.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace htdrdd::test {
 namespace {
@@ -70,6 +73,68 @@ TEST_F(MachineFiles, AreReadCopiedAppendedToAndDeleted) {
     EXPECT_FALSE(files.FileExists(log));
     EXPECT_EQ(BuildPath(u"/a/", FileNameOf(log)) + BuildPath(u"", FileNameOf(u"b")), u"/a/logb");
     EXPECT_EQ(Text(FolderOf(u"/a/b")).append(FolderOf(u"/b")).append(FolderOf(u"b")), u"/a/");
+}
+
+TEST_F(MachineFiles, AreCopiedWholeOrNotAtAll) {
+    namespace fs = std::filesystem;
+    const auto mode = [&](const Text& path) {
+        return static_cast<unsigned>(fs::status(ToNativePath(path)).permissions());
+    };
+    const Text source = Put(u"source", "0123456789");
+    const Text old = Put(u"old", "old");
+    fs::permissions(ToNativePath(source), fs::perms{0640});
+    fs::permissions(ToNativePath(old), fs::perms{0604});
+    fs::create_symlink("old", ToNativePath(Path(u"link")));
+    const auto files_in_folder = [&] { return std::distance(fs::directory_iterator(folder_), {}); };
+    const auto number = files_in_folder();
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit small{8, limit.rlim_max};
+    const auto handler = ::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    for (const TextView to : {u"old", u"link", u"new"})
+        EXPECT_NE(FailureOf([&] { files.CopyFile(source, Path(to), Rights::OfSource); }), 0);
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    ::signal(SIGXFSZ, handler);
+    EXPECT_EQ(files_in_folder(), number);
+    EXPECT_EQ(files.Read(old).View(), "old");
+
+    files.CopyFile(source, Path(u"link"), Rights::OfNewFile);
+    EXPECT_TRUE(fs::is_symlink(ToNativePath(Path(u"link"))));
+    EXPECT_EQ(files.Read(old).View(), "0123456789");
+    EXPECT_EQ(mode(old), 0604U) << "a file that is there keeps its rights";
+    files.CopyFile(source, Path(u"backup"), Rights::OfSource);
+    files.CopyFile(source, Path(u"new"), Rights::OfNewFile);
+    files.CopyFile(source, Path(u"own"), Rights::OwnerOnly);
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    EXPECT_EQ(mode(Path(u"backup")), 0640U);
+    EXPECT_EQ(mode(Path(u"new")), 0666U & ~mask);
+    EXPECT_EQ(mode(Path(u"own")), 0600U);
+    files.SetMode(Path(u"new"), files.ModeOf(Path(u"own")).value());
+    EXPECT_EQ(mode(Path(u"new")), 0600U);
+    EXPECT_FALSE(files.ModeOf(Path(u"none")) || files.ModeOf(Path(u"")));
+}
+
+TEST_F(MachineFiles, TemporaryOnesAreMadeAnewAndGoWithTheirFolder) {
+    namespace fs = std::filesystem;
+    const Text folder = Path(u"folder");
+    const Text outside = Put(u"outside", "0123456789");
+    files.CreateFolder(folder);
+    const auto file = files.Create(BuildPath(folder, u"file"));
+    file->Write("x");
+    file->Close();
+    EXPECT_EQ(fs::status(ToNativePath(folder)).permissions(), fs::perms::owner_all);
+    EXPECT_EQ(fs::status(ToNativePath(BuildPath(folder, u"file"))).permissions(), fs::perms{0600});
+    EXPECT_EQ(FailureOf([&] { files.CreateFolder(folder); }), 58);
+    EXPECT_EQ(FailureOf([&] { files.CreateFolder(outside + u"/x"); }), 76);
+    fs::create_symlink(folder_, ToNativePath(BuildPath(folder, u"link")));
+    EXPECT_EQ(FailureOf([&] { return files.Create(BuildPath(folder, u"link")); }), 58);
+    EXPECT_EQ(FailureOf([&] { files.DeleteFolder(outside); }), 76);
+    files.DeleteFolder(folder);
+    EXPECT_FALSE(files.FolderExists(folder));
+    EXPECT_EQ(files.ReadEnd(outside, 3).View(), "789") << "links aren't followed";
+    EXPECT_EQ(files.ReadEnd(outside, 30).View(), "0123456789");
 }
 
 /// The lines of a file, "|" behind each.

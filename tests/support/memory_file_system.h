@@ -17,6 +17,7 @@ class MemoryFileSystem final : public FileSystem {
 public:
     std::map<Text, std::string> files;
     std::set<Text> folders{u"/tmp"};
+    std::map<Text, std::uint32_t> modes; ///< of those files that were given one
     /// The operation that fails, counted from 1; 0: none. Looking whether something is there never fails.
     int failingOperation = 0;
     Err failure = Err::PermissionDenied;
@@ -57,6 +58,15 @@ public:
         Count(at, refusedDeletions-- > 0);
         Find(path, at);
         files.erase(Text(path));
+        modes.erase(Text(path));
+    }
+    std::optional<std::uint32_t> ModeOf(TextView path) override {
+        const auto mode = modes.find(Text(path));
+        return mode != modes.end() ? std::optional(mode->second) : std::nullopt;
+    }
+    void SetMode(TextView path, std::uint32_t mode, Where at) override {
+        Count(at);
+        modes[Text(path)] = mode;
     }
     void CreateFolder(TextView path, Where at) override {
         Count(at);
