@@ -5,7 +5,10 @@
 #include "support/telling.h"
 #include "support/words.h"
 
+#include <cstdio>
+#include <fstream>
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 namespace htdrdd::test {
 namespace {
@@ -218,6 +221,19 @@ TEST_F(ArchivedDefinition, IsReadIfItHoldsOneText) {
     EXPECT_EQ(Heard(), Said{"76 Path not found @ basTemplate.VB_RT_read_template"});
     EXPECT_GT(files.operations, operations) << "this is meant: ten tries";
     EXPECT_TRUE(Temporaries().empty());
+}
+
+TEST_F(ArchivedDefinition, IsOpenedByOtherProgramsWithThePassword) {
+    ASSERT_TRUE(Read(kSmall) && rdd->Save(u"/exam.rdd"));
+    const std::string file = ::testing::TempDir() + "htdrdd_archive." + std::to_string(::getpid());
+    std::ofstream(file, std::ios::binary) << Exam();
+    const std::string password = ToUtf8(basTemplate::ArchivePassword());
+    std::string text;
+    FILE* const unzip = ::popen(("unzip -p -P '" + password + "' '" + file + "'").c_str(), "r");
+    for (int c = std::fgetc(unzip); c != EOF; c = std::fgetc(unzip)) text += static_cast<char>(c);
+    EXPECT_EQ(::pclose(unzip), 0);
+    EXPECT_EQ(text, files.files[Temporaries().front()]);
+    std::remove(file.c_str());
 }
 
 TEST_F(ArchivedDefinition, NeedsATemporaryFolder) {
