@@ -109,6 +109,17 @@ void Judge(const Ref<clsHTDRDD>& rdd) {
     Demand(any == rdd->ScaledScoreIsValid());
 }
 
+/// What was read can be saved, and once it was saved and read, saving it writes the same bytes ever again.
+void SaveAgain(const Ref<clsHTDRDD>& rdd, test::MemoryFileSystem& files) {
+    std::string former;
+    for (int round = 1; round <= 3; ++round) {
+        Demand(rdd->Save(kFile, false, false));
+        if (round == 3) Demand(files.files[Text(kFile)] == former);
+        former = files.files[Text(kFile)];
+        Demand(rdd->Read(kFile));
+    }
+}
+
 } // namespace
 } // namespace htdrdd::fuzz
 
@@ -134,6 +145,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Demand(Walk(*used) == told);
         Judge(rdd);
         Demand(Walk(*rdd) == told);
+        if (read) SaveAgain(rdd, files);
     }
     UseFileSystem(nullptr);
     return 0;

@@ -77,7 +77,7 @@ public:
     /// Opens a file to write at its end; it is made where it is missing.
     [[nodiscard]] virtual std::unique_ptr<FileWriter> OpenForAppending(TextView path,
                                                                        Where at = Where::current()) = 0;
-    /// Copies a file to a new name, or over another, which keeps its own rights. After a failure there is no
+    /// Copies a file to a new name, or over another, whose rights it takes. After a failure there is no
     /// part of a copy, and what was there still is.
     virtual void CopyFile(TextView from, TextView to, Rights rights, Where at = Where::current()) = 0;
     /// Deletes a file, also a read-only one.

@@ -43,7 +43,8 @@ protected:
             std::vector<std::string> places;
             for (const std::string& line : said) places.push_back(line.substr(line.rfind('@') + 1));
             std::sort(places.begin(), places.end());
-            EXPECT_EQ(std::adjacent_find(places.begin(), places.end()), places.end()) << ::testing::PrintToString(said);
+            EXPECT_EQ(std::adjacent_find(places.begin(), places.end()), places.end())
+                << ::testing::PrintToString(said);
             EXPECT_EQ(files.folders.size(), 1U) << "a temporary folder is left";
             check(result);
             if (fired) continue;

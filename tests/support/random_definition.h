@@ -1,0 +1,176 @@
+/// Definitions made at random.
+#pragma once
+
+#include "model/clsHTDRDD.h"
+
+#include <cmath>
+#include <initializer_list>
+#include <random>
+
+namespace htdrdd::test {
+
+/// Makes a definition through the members that a host uses; the same seed makes the same one. Its file can be
+/// read: what is restricted for that has its reason beside it. Every other one is tame, without most of what
+/// makes the next save another one.
+class RandomDefinition {
+public:
+    explicit RandomDefinition(std::uint64_t seed) : random_(seed) {}
+
+    Ref<clsHTDRDD> Made() {
+        Fill(rdd_->TemplateName, rdd_->Description, rdd_->Notes, rdd_->NumPages, rdd_->CustomHeader);
+        rdd_->ReportType = Enum<HTDReportType>({1, 1, 1, 2, 2, 3, 3, 0, -32768, 32767}); // 16 bits are read
+        generic_ = rdd_->ReportType == HTDReportTypeGenericGrade;
+        if (Rarely()) rdd_->Header = Make<Dictionary>(); // an empty one, in which the case of keys counts
+        // [Report] can't stand last, so a generic key needs a header. A key with "[" in front is a section.
+        for (std::int32_t left = Below(4) + (generic_ ? 1 : 0); left > 0; --left) {
+            const TextView key = OneOf<TextView>({u"OWN", u"own", u"_header_cols", u"_R1C1_FLD_TEXT"});
+            const TextView odd = OneOf<TextView>({u" a ", u"A", u"a=b", u"", u"\t", u" _r1c1_fld_text"});
+            rdd_->Header->SetItem(Rarely() ? odd : key, OddText());
+        }
+        for (std::int32_t left = wild_ ? Below(4) : 1 + Below(3); left > 0; --left) {
+            const auto subtest = Make<clsHTDRDDSubtest>();
+            rdd_->Subtests->Add(subtest);
+            Fill(subtest->SubtestName, subtest->Description, subtest->Benchmark, *subtest->GradeScale,
+                 *subtest->ScaledScore);
+        }
+        Fill(*rdd_->GradeScale, *rdd_->SubtestGradeScale, *rdd_->ScaledScore, *rdd_->SubtestScaledScore);
+        for (std::int32_t left = Below(7); left > 0; --left) AddQuestion();
+        FillVersions();
+        return rdd_;
+    }
+
+private:
+    std::int32_t Below(std::int32_t limit) {
+        return static_cast<std::int32_t>(random_() % static_cast<unsigned>(limit));
+    }
+    bool Rarely() { return Below(4) == 0 && wild_; }
+    template <class T>
+    T OneOf(std::initializer_list<T> values) {
+        return values.begin()[Below(static_cast<std::int32_t>(values.size()))];
+    }
+    template <class T>
+    T Enum(std::initializer_list<int> values) {
+        return static_cast<T>(OneOf(values));
+    }
+    /// Without tabs and line breaks, for lists whose items are counted.
+    Text OddLine() {
+        static constexpr TextView kNul(u"\0", 1);
+        Text text;
+        for (std::int32_t left = Below(4); left > 0; --left)
+            text += OneOf<TextView>(
+                {u"A",      u"b,",         u"(B,a)",        u"2.5",  u" ",       u"=",      u"[",
+                 u"]",      u"[Question]", u"0,5",          u"é",    u"\u0130ß", u"\u65E5", u"\xD83D\xDE00",
+                 u"\xD800", u"\xDC00",     u"\x80\x85\x9F", u"\xA0", u"\r",      u"\uFEFF", kNul});
+        return text;
+    }
+    /// Behind a line break is a line of its own: blank, with "[" in front or with "=" it would count.
+    Text OddText() {
+        Text text = OddLine();
+        if (Below(4) == 0) text.append(u"\t").append(OddLine());
+        if (wild_ && Below(50) == 0) text += OneOf<TextView>({u"\nstray", u"\r\nstray", u"\r\r\nstray"});
+        return text;
+    }
+    /// No infinity, and none that the 15th digit rounds up to one.
+    double Number() {
+        if (Below(2) == 0) return std::ldexp(Below(2001) - 1000, Below(1900) - 1000);
+        return OneOf({.5, 1 / 3., -2 / 3., .1 + .2, 1e15, -1e-7, 123456789012345678., 1.7e308, 5e-324, -999.,
+                      0., -0.});
+    }
+
+    template <class... Members>
+    void Fill(Members&... members) {
+        (FillOne(members), ...);
+    }
+    void FillOne(bool& flag) { flag = Below(2) == 0; }
+    void FillOne(double& number) { number = Number(); }
+    void FillOne(std::int32_t& number) { number = OneOf({0, 1, -999, 2147483647, -2147483647 - 1}); }
+    template <class AnyText>
+    void FillOne(AnyText& text) {
+        text = TextView(OddText());
+    }
+    void FillOne(Ref<clsHTDRDDStrings>& list) {
+        for (std::int32_t left = Below(4); left > 0; --left)
+            list->Add(Below(2) == 0 ? OneOf<TextView>({u"A", u"B", u"2", u""}) : OddText());
+        list->MaxLength = OneOf({0, 3}); // not before: that could leave a bare line break
+    }
+    void FillOne(clsHTDRDDGradeScale& scale) {
+        Fill(scale.ScaleName);
+        const std::int32_t rows = (wild_ ? Below(2) == 0 : everyScale_) ? 1 + Below(3) : 0;
+        for (std::int32_t row = 0; row < rows; ++row) {
+            const auto item = Make<clsHTDRDDGradeScaleItem>();
+            scale.Add(item);
+            item->Grade = OddLine();
+            item->StartValue = OneOf<TextView>({u"90", u"89,5", u"59.5", u"5%", u""});
+            if (rows == 1) item->Grade = item->StartValue = u"0,"; // a single empty item would be no item
+        }
+    }
+    /// Every other one is valid, most of the time.
+    void FillOne(clsHTDRDDScaledScore& score) {
+        clsHTDRDDScaledScoreDB& db = *score.DB;
+        Fill(db.Name, db.Catalog, db.Table, db.MinFieldPrimary, db.MaxFieldPrimary, db.MinFieldSecondary,
+             db.MaxFieldSecondary, db.ScoreField, db.ScoreGrade, db.DSNName, db.DirectoryBased, db.DSNBased,
+             db.User, db.Password, db.Connect, score.ScaledScoreName, score.LearningObjectiveSecondary);
+        if (Below(2) == 0) return;
+        const auto overall = rdd_->Subtests->Item(1);
+        score.LearningObjectivePrimary = overall ? overall->SubtestName : OddText();
+        score.ScaledScoreValues = Enum<HTDScaledScoreValues>({1, 2, 3});
+        score.ScaledScoreCriteriaPrimary = Enum<HTDScaledScoreCriteria>({1, 1, 1, 2, 4});
+        score.ScaledScoreCriteriaSecondary = Enum<HTDScaledScoreCriteria>({0, 0, 0, 4, -7});
+        score.Precision = Enum<std::int16_t>({-1, 0, 3, 32767, -32768});
+        for (Text* const column : {&db.MinFieldPrimary, &db.MaxFieldPrimary, &db.ScoreField})
+            column->insert(0, u"f");
+        db.DBType = Enum<std::int16_t>({0, 1, 32767});
+        db.Connect = u" DSN=norms;\r\n=" + OddText();
+        db.Valid = Below(8) != 0;
+    }
+    void AddQuestion() {
+        const auto made = Make<clsHTDRDDQuestion>();
+        clsHTDRDDQuestion& q = *made;
+        Fill(q.AnswerValues, q.AnswerCodes, q.CorrectAnswers, q.CorrectCodes, q.CorrectAnswerPoints);
+        Fill(q.QuestionName, q.QuestionText, q.Difficulty, q.Reference, q.Topic, q.Keywords, q.Miscellaneous,
+             q.Notes, q.BlankText, q.MultipleText, q.MissingText, q.BlankValue, q.MultipleValue,
+             q.MissingValue, q.CorrectPoints, q.IncorrectPoints, q.NoResponsePoints, q.SubjectivePoints,
+             q.MinValue, q.MaxValue, q.Benchmark, q.NAValue, q.NumCorrect, q.IncludeGrade, q.IncludeTally,
+             q.ExtraCredit, q.PartialCredit, q.IDField, q.SubjectiveField, q.CorrectAnd);
+        q.Topic = u"line\r\nends\n" + OddText();
+        q.DataType = Enum<HTDReportDataType>({0, 1, 1, 1, 2, 2, 32767, -32768}); // 16 bits are read,
+        q.MultiplesPermitted = Enum<std::int16_t>({0, 1, 32767});
+        if (Rarely()) q.MultiplesPermitted = Enum<std::int16_t>({-1, -32767}); // and an absolute value
+        if (!wild_ && q.CorrectAnswerPoints->Item(1).empty()) q.PartialCredit = false;
+        if (generic_ && q.IncludeGrade) q.SubjectiveField = false; // it would be announced twice
+        for (std::int32_t l = rdd_->Subtests->Count() + (Rarely() ? 1 : 0); l > 0; --l) {
+            const auto membership = Make<clsHTDRDDQuestionSubtest>();
+            Fill(membership->Include, membership->Weight);
+            q.Subtests->Add(membership);
+        }
+        if (!Rarely() && q.Subtests->Exists(1)) q.Subtests->SetInclude(1, true);
+        rdd_->Questions->Add(made);
+    }
+    /// Where versions have a question, their number is checked, and where they are scrambled, the length of
+    /// the sequences, of which an empty one isn't read.
+    void FillVersions() {
+        clsHTDRDDVersions& versions = *rdd_->Versions;
+        const std::int32_t questions = rdd_->Questions->Count();
+        const std::int32_t number = Below(4);
+        versions.Question = OneOf({0, 1, 1, 2, -1, 2147483647});
+        for (std::int32_t left = number; left > 0; --left)
+            versions.Answers->Add(versions.Question > 0 ? OddLine() : OddText());
+        std::int32_t sequences = OneOf({0, 1, number, number});
+        const bool scrambled = versions.Question > 0 && number > 1 && sequences == number;
+        if (scrambled ? questions == 0 : sequences > 1 && !wild_) sequences = 0;
+        for (; sequences > 0; --sequences) {
+            const auto sequence = Make<clsHTDRDDSequence>();
+            versions.Sequences->Add(sequence);
+            for (std::int32_t left = scrambled ? questions : Below(4); left > 0; --left)
+                sequence->Add(1 + Below(questions + (scrambled ? 0 : 9)));
+        }
+    }
+
+    std::mt19937_64 random_;
+    bool wild_ = Below(2) == 0;
+    bool everyScale_ = Below(2) == 0;
+    bool generic_ = false;
+    Ref<clsHTDRDD> rdd_ = Make<clsHTDRDD>();
+};
+
+} // namespace htdrdd::test
