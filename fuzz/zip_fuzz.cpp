@@ -24,7 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Demand(number == 0 || names.UpperBound() == number);
     for (const Text& name : names.Items())
         Demand(name.empty() ? !all : files.FileExists(BuildPath(u"/out", name)));
-    for (const auto& file : files.files) Demand(file.first == u"/fuzz.zip" || FolderOf(file.first) == u"/out");
+    for (const auto& file : files.files)
+        Demand(file.first == u"/fuzz.zip" || FolderOf(file.first) == u"/out");
     Demand(Host().complaints == 0);
     UseFileSystem(nullptr);
     return 0;

@@ -36,7 +36,7 @@ std::optional<Text> ArchiveStage::Open(TextView sFile, Where at) {
             return {};
         }
         const Text copy = BuildPath(folder, FileNameOf(sFile));
-        files.CopyFile(sFile, copy, Rights::OwnerOnly, at);
+        files.CopyFile(sFile, copy, kOwnerOnly, at);
         Array<Text> members;
         std::int32_t number = 0;
         // This alone tells archives from plain text; one that is damaged counts as text, too.

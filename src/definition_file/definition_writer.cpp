@@ -37,8 +37,8 @@ void TakeOverOverall(clsHTDRDD& rdd) {
     if (rdd.Subtests->Count() == 0) return;
     const auto overall = rdd.Subtests->Item(1);
     if (const auto& scale = overall->GradeScale.Peek(); scale.Count() >= 1) rdd.GradeScale = scale.Copy();
-    if (const auto& score = overall->ScaledScore.Peek(); score.IsValid(Ref<clsHTDRDD>(&rdd), false))
-        rdd.ScaledScore = score.Copy();
+    const Ref score(&overall->ScaledScore.Peek()); // a report may make the host replace it
+    if (score->IsValid(Ref<clsHTDRDD>(&rdd), false)) rdd.ScaledScore = score->Copy();
 }
 
 void WriteScale(const Saving& s, TextView section, const clsHTDRDDGradeScale& scale) {
@@ -107,11 +107,13 @@ bool VB_RT_save_template(TextView sFile, clsHTDRDD& oRDD, bool bEncrypt, bool bV
         target.MakeWay(password);
         // This is meant: the text behind an archive stays in the temporary folder, and only whether there is
         // a file at the end makes the result.
-        if (bEncrypt)
-            Make<clsDZip>()->Zip(sFile, temporary, password);
-        else
+        if (bEncrypt) {
+            Make<clsDZip>()->Zip(target.Path(), temporary, password);
+            target.RestoreRights();
+        } else {
             target.Put(temporary);
-        result = target.IsThere();
+        }
+        result = files.FileExists(sFile);
     } catch (...) { ReportFailure(u"HTDRdd91 - basTemplate.VB_RT_save_template"); }
     return result;
 }
@@ -133,15 +135,17 @@ Ref<clsHTDRDD> clsHTDRDD::Copy() noexcept {
         const Ref<clsHTDRDD> self(this);
         const Text name = FileName;
         const Text temporary = basPublic::GetUniqueFileName({}, {}, {});
+        Ref<clsHTDRDD> made;
         if (Save(temporary, true, false)) {
             auto copy = Make<clsHTDRDD>();
             copy->SetError(ThisThread().errorHost);
             if (copy->Read(temporary)) {
                 copy->FileName = name;
-                result = std::move(copy);
+                made = std::move(copy);
             }
         }
         if (files.FileExists(temporary)) files.DeleteFile(temporary);
+        result = std::move(made);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDD.Copy"); }
     return result;
 }

@@ -14,14 +14,17 @@ bool clsHTDRDD::SaveHeader(TextView sHeaderFile) noexcept {
     try {
         const Ref<clsHTDRDD> self(this); // a report may make the host release it
         if (Header->Count() == 0) return false;
-        const Temporary temporary(basPublic::GetUniqueFileName({}, {}, {}));
-        TextWriter out(CurrentFileSystem(), temporary.Path());
+        FileSystem& files = CurrentFileSystem();
+        const Text text = basPublic::GetUniqueFileName({}, {}, {});
+        Temporary temporary(text);
+        TextWriter out(files, text);
         basTemplate::WriteHeader(out, *Header);
         out.Close();
         const basTemplate::TargetFile target(sHeaderFile);
         target.MakeWay({});
-        target.Put(temporary.Path());
-        result = target.IsThere();
+        temporary.Keep(); // with the old file gone it is all there is
+        target.Put(text);
+        result = files.FileExists(sHeaderFile);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDD.SaveHeader"); }
     return result;
 }

@@ -58,8 +58,8 @@ void WriteSubtest(TextWriter& out, const clsHTDRDDSubtest& oSubtest, const Varia
     WriteRows(out, kRows, oSubtest, at);
     if (const auto& scale = oSubtest.GradeScale.Peek(); scale.Count() >= 1)
         WriteScaleKeys(out, scale, sDecimalMark, at);
-    if (const auto& score = oSubtest.ScaledScore.Peek(); score.IsValid(oRDD, bForLearningObjective))
-        WriteScaledScoreKeys(out, score, at);
+    const Ref score(&oSubtest.ScaledScore.Peek()); // a report may make the host replace it
+    if (score->IsValid(oRDD, bForLearningObjective)) WriteScaledScoreKeys(out, *score, at);
     out.WriteLine({}, at);
 }
 

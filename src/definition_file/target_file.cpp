@@ -1,7 +1,6 @@
 #include "definition_file/target_file.h"
 
 #include "foundation/basPublicFiles.h"
-#include "platform/file_system.h"
 
 namespace htdrdd::basTemplate {
 namespace {
@@ -10,29 +9,27 @@ constexpr std::int16_t kRetries = 20;
 
 } // namespace
 
-TargetFile::TargetFile(TextView sFile) : sFile_(sFile), mode_(CurrentFileSystem().ModeOf(sFile)) {}
+TargetFile::TargetFile(TextView sFile)
+    : path_(CurrentFileSystem().Resolved(sFile)), mode_(CurrentFileSystem().ModeOf(path_)) {}
 
 void TargetFile::MakeWay(TextView sPassword, Where at) const {
     FileSystem& files = CurrentFileSystem();
-    if (!files.FileExists(sFile_)) return;
-    if (basPublic::IsUnicodeFile(sFile_, sPassword))
-        files.DeleteFile(sFile_, at);
+    if (!files.FileExists(path_)) return;
+    if (basPublic::IsUnicodeFile(path_, sPassword))
+        files.DeleteFile(path_, at);
     else // older readers can't take the new one
-        basPublic::FileBackup(sFile_, true, kRetries);
+        basPublic::FileBackup(path_, true, kRetries);
 }
 
 void TargetFile::Put(TextView sTemporary, Where at) const {
     FileSystem& files = CurrentFileSystem();
     if (!files.FileExists(sTemporary)) return;
-    files.CopyFile(sTemporary, sFile_, Rights::OfNewFile, at);
+    files.CopyFile(sTemporary, path_, mode_, at);
     files.DeleteFile(sTemporary, at);
 }
 
-bool TargetFile::IsThere() const {
-    FileSystem& files = CurrentFileSystem();
-    if (!files.FileExists(sFile_)) return false;
-    if (mode_) IgnoreFailure([&] { files.SetMode(sFile_, *mode_); }); // as near as they can be had here
-    return true;
+void TargetFile::RestoreRights() const noexcept {
+    if (mode_) IgnoreFailure([this] { CurrentFileSystem().SetMode(path_, *mode_); });
 }
 
 } // namespace htdrdd::basTemplate

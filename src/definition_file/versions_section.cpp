@@ -71,6 +71,7 @@ bool VB_RT_read_sequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
 }
 
 void WriteVersions(TextWriter& out, const clsHTDRDDVersions& oVersions) {
+    const Ref held(&oVersions); // a report may make the host replace it
     out.WriteLine(u"[Versions]");
     WriteRows(out, kRows, oVersions);
     if (oVersions.VType() == HTDVersionTypeSequence) {

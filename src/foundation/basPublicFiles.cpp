@@ -54,7 +54,7 @@ Text FileBackup(TextView sFile, bool bDelete, std::int16_t iRetries) noexcept {
         if (!files.FileExists(sFile)) return result;
         const Text backup = Text(sFile) + u".old";
         if (files.FileExists(backup)) return u"True";
-        untilDone([&] { files.CopyFile(sFile, backup, Rights::OfSource); },
+        untilDone([&] { files.CopyFile(sFile, backup, files.ModeOf(sFile)); },
                   [&] { return files.FileExists(backup); });
         result = backup;
         if (bDelete) untilDone([&] { files.DeleteFile(sFile); }, [&] { return !files.FileExists(sFile); });
@@ -89,7 +89,7 @@ bool IsUnicodeFile(TextView sFile, TextView sPassword) noexcept {
         const Temporary folder(GetUniqueFileName({}, {}, {}));
         files.CreateFolder(folder.Path());
         const Temporary copy(GetUniqueFileName({}, {}, {}));
-        files.CopyFile(sFile, copy.Path(), Rights::OwnerOnly);
+        files.CopyFile(sFile, copy.Path(), kOwnerOnly);
         Text file = copy.Path();
         Array<Text> members;
         std::int32_t number = 0;

@@ -25,16 +25,14 @@ std::unique_ptr<FileWriter> CreateUnder(FileSystem& files, TextView path) {
 }
 
 /// Takes one member out. False where its content or its name won't do.
-bool Extract(FileSystem& files, const ZipReader& archive, std::int32_t member, TextView path,
-             bool Overwrite) {
+bool Extract(FileSystem& files, ZipReader& archive, std::int32_t member, TextView path, bool Overwrite) {
     if (Overwrite && files.FileExists(path)) files.DeleteFile(path);
     const auto file = CreateUnder(files, path);
     if (!file) return false;
-    if (!archive.Read(member, [&](std::string_view piece) { file->Write(piece); })) {
-        IgnoreFailure([&] { files.DeleteFile(path); });
-        return false;
-    }
+    Temporary part{Text(path)};
+    if (!archive.Read(member, [&](std::string_view piece) { file->Write(piece); })) return false;
     file->Close();
+    part.Keep();
     return true;
 }
 
@@ -61,7 +59,7 @@ bool clsDZip::Zip(TextView ZipName, const Array<Text>& ZipFiles, TextView Encryp
         file->Write(bytes->View());
         file->Close();
         if (files.FileExists(ZipName)) files.DeleteFile(ZipName);
-        files.CopyFile(temporary.Path(), ZipName, Rights::OfNewFile);
+        files.CopyFile(temporary.Path(), ZipName);
         temporary.Delete();
         result = files.FileExists(ZipName);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsDZip.Zip"); }
@@ -85,7 +83,7 @@ bool clsDZip::UnZip(TextView ZipName, TextView DestinationDir, Array<Text>& Extr
         ExtractedFilesCount = 0;
         FileSystem& files = CurrentFileSystem();
         if (!files.FileExists(ZipName)) return false;
-        const ZipReader archive(files, ZipName, DecryptStr);
+        ZipReader archive(files, ZipName, DecryptStr);
         if (!archive.IsOpen()) return false;
         const std::int32_t members = archive.Count();
         ExtractedFiles = Array<Text>(std::vector<Text>(static_cast<std::size_t>(members)), 1);

@@ -27,10 +27,11 @@ public:
              bool NoDirectoryNames = true) const noexcept;
 
     /// Takes the members of an archive out into a folder, under the last parts of their names. ExtractedFiles
-    /// gets those names, from 1, counted by the member: that of one that can't be taken out stays empty, and
-    /// where there are any the list is shortened to ExtractedFilesCount from its end: this is meant. It has
+    /// gets those names, from 1, counted by the member: that of one that can't be taken out stays empty. This
+    /// is meant: the list is then cut to ExtractedFilesCount names, so that names at its end are lost. It has
     /// no storage where none came out, and stays as it is where ZipName is no archive. True if there are
-    /// members and all came out. Overwrite false fails a member whose file is there.
+    /// members and all came out. Overwrite false fails a member whose file is there. Members never get
+    /// folders, and nothing is called back: the last two arguments have no effect.
     bool UnZip(TextView ZipName, TextView DestinationDir, Array<Text>& ExtractedFiles,
                std::int32_t& ExtractedFilesCount, TextView DecryptStr = {}, bool Overwrite = true,
                bool NoDirectoryNames = true, bool MessageCallBack = true) const noexcept;

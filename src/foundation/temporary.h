@@ -1,4 +1,4 @@
-/// Files and folders for a while.
+/// Temporary files and folders.
 #pragma once
 
 #include "platform/file_system.h"
@@ -8,7 +8,7 @@
 
 namespace htdrdd {
 
-/// A file or a folder that is deleted at the end, if there is one under the name. Nothing is made.
+/// The name of a file or a folder that is deleted at the end, if there is one by then. It makes nothing.
 class Temporary {
 public:
     explicit Temporary(Text path = {}) : path_(std::move(path)) {}
@@ -20,6 +20,8 @@ public:
     }
 
     [[nodiscard]] const Text& Path() const noexcept { return path_; }
+    /// Leaves what is there.
+    void Keep() noexcept { path_.clear(); }
     /// Deletes it now and fails to the caller.
     void Delete(Where at = Where::current()) const {
         FileSystem& files = CurrentFileSystem();

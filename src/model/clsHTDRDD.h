@@ -49,15 +49,17 @@ public:
     /// true result sets FileName. AfterRead is raised in any case.
     bool Read(TextView sRDDFile);
 
-    /// Saves the definition as a password-protected archive, or with bEncrypt false as plain text. The text
-    /// is written to a temporary file first; up to there the target stays untouched. Then an old target is
-    /// deleted, or kept under its name with ".old" behind it where its text is single-byte, and the new one
-    /// takes its place. bVerbose false keeps a complaint of invalid test versions from the user; true asks
-    /// whether to go on, and where the user declines, the result is false in silence. Whatever comes of it,
-    /// the document takes its grade scale and its scaled score over from learning objective 1, if that one
-    /// has any. An archived save leaves its text in the temporary folder, readable by its owner only: this is
-    /// meant. True where a file of that name is there at the end, and then FileName is set. False after a
-    /// failure, which is reported.
+    /// Saves the definition as a password-protected archive, or with bEncrypt false as plain text, and sets
+    /// FileName. False after a failure, which is reported, and where the user declines to save invalid test
+    /// versions; with bVerbose false nobody is asked and they are saved. True means that a file of that name
+    /// is there at the end.
+    /// - The target stays as it is until the text is complete in a temporary file. Then an old target is
+    ///   deleted, or where its text is single-byte kept under its name with ".old" behind it.
+    /// - The document takes its grade scale and its scaled score over from learning objective 1, if that one
+    ///   has any, whatever comes of the save.
+    /// - This is meant: an archived save, and one that fails, leaves the text in the temporary folder,
+    /// readable
+    ///   by its owner only.
     bool Save(TextView sRDDFile, bool bEncrypt = true, bool bVerbose = true);
 
     /// Registers the host object of this thread, for all definitions, until another takes its place; an empty

@@ -35,12 +35,9 @@ private:
     std::size_t size_ = 0;
 };
 
-/// Who may read and write a file that is made.
-enum class Rights {
-    OfSource,  ///< those of the file that is copied
-    OfNewFile, ///< what the machine gives to new files
-    OwnerOnly, ///< nobody but the owner
-};
+/// Who may do what with a file, in the system's own terms.
+using FileMode = std::uint32_t;
+inline constexpr FileMode kOwnerOnly = 0600;
 
 /// A file that is being written. Destroying it without Close drops what Close would have reported.
 class FileWriter {
@@ -77,14 +74,18 @@ public:
     /// Opens a file to write at its end; it is made where it is missing.
     [[nodiscard]] virtual std::unique_ptr<FileWriter> OpenForAppending(TextView path,
                                                                        Where at = Where::current()) = 0;
-    /// Copies a file to a new name, or over another, whose rights it takes. After a failure there is no
-    /// part of a copy, and what was there still is.
-    virtual void CopyFile(TextView from, TextView to, Rights rights, Where at = Where::current()) = 0;
+    /// Copies a file to a new name, with the given rights or else those that the machine gives to new files;
+    /// or over another file, which keeps its own. After a failure there is no part of a copy, and what was
+    /// there still is.
+    virtual void CopyFile(TextView from, TextView to, std::optional<FileMode> mode = {},
+                          Where at = Where::current()) = 0;
     /// Deletes a file, also a read-only one.
     virtual void DeleteFile(TextView path, Where at = Where::current()) = 0;
-    /// Who may do what with a file, in the system's own terms; none where it isn't there.
-    [[nodiscard]] virtual std::optional<std::uint32_t> ModeOf(TextView path) = 0;
-    virtual void SetMode(TextView path, std::uint32_t mode, Where at = Where::current()) = 0;
+    /// None where there is no file.
+    [[nodiscard]] virtual std::optional<FileMode> ModeOf(TextView path) = 0;
+    virtual void SetMode(TextView path, FileMode mode, Where at = Where::current()) = 0;
+    /// The file that a link leads to in the end; the path itself where it is no link or leads nowhere.
+    [[nodiscard]] virtual Text Resolved(TextView path) = 0;
     /// Makes a folder for its owner only. Fails with 58 where there is anything under that name.
     virtual void CreateFolder(TextView path, Where at = Where::current()) = 0;
     /// Deletes a folder with all that is in it. Links are deleted, not followed.

@@ -54,7 +54,6 @@ Failure FileFailure(int error, TextView path, Where at) {
     }
 }
 
-constexpr mode_t kOfOwner = 0600;
 constexpr mode_t kOfNewFile = 0666; // less what the user's mask takes away
 constexpr mode_t kOfOwnersFolder = 0700;
 
@@ -90,7 +89,6 @@ public:
         if (!S_ISREG(status_.st_mode)) throw Failure(Err::PermissionDenied, at);
     }
     [[nodiscard]] int Get() const noexcept { return file_.Get(); }
-    [[nodiscard]] mode_t Mode() const noexcept { return status_.st_mode & ALLPERMS; }
     [[nodiscard]] std::size_t Size() const noexcept { return static_cast<std::size_t>(status_.st_size); }
 
     /// The bytes from a place on.
@@ -144,21 +142,19 @@ private:
 /// place when it is whole. One that isn't finished is deleted.
 class Copy {
 public:
-    Copy(const Source& source, TextView to, Rights rights, Where at)
-        : source_(source), path_(to), target_(Native(to, at)) {
+    Copy(const Source& source, TextView to, std::optional<FileMode> mode, Where at)
+        : source_(source), path_(to), target_(Native(to, at)), draft_(target_) {
         struct stat old {};
         replaces_ = ::stat(target_.c_str(), &old) == 0 && S_ISREG(old.st_mode);
-        if (std::error_code error; replaces_) { // a link stays one
-            if (auto file = std::filesystem::canonical(target_, error); !error) target_ = file.native();
+        if (replaces_) {
+            draft_ += ".XXXXXX";
+            mode = old.st_mode & ALLPERMS;
         }
-        draft_ = replaces_ ? target_ + ".XXXXXX" : target_;
         file_.emplace(replaces_ ? ::mkostemp(draft_.data(), O_CLOEXEC)
                                 : ::open(draft_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
-                                         rights == Rights::OfNewFile ? kOfNewFile : kOfOwner),
+                                         mode ? kOwnerOnly : kOfNewFile),
                       path_, at);
-        // As near as the rights can be had here.
-        if (replaces_ || rights == Rights::OfSource)
-            ::fchmod(file_->Get(), replaces_ ? old.st_mode & ALLPERMS : source.Mode());
+        if (mode) ::fchmod(file_->Get(), *mode); // as near as it can be had here
     }
     Copy(const Copy&) = delete;
     Copy& operator=(const Copy&) = delete;
@@ -208,17 +204,17 @@ public:
     }
 
     std::unique_ptr<FileWriter> Create(TextView path, Where at) override {
-        return std::make_unique<PosixWriter>(path, O_EXCL, kOfOwner, at);
+        return std::make_unique<PosixWriter>(path, O_EXCL, kOwnerOnly, at);
     }
 
     std::unique_ptr<FileWriter> OpenForAppending(TextView path, Where at) override {
         return std::make_unique<PosixWriter>(path, O_APPEND, kOfNewFile, at);
     }
 
-    void CopyFile(TextView from, TextView to, Rights rights, Where at) override {
+    void CopyFile(TextView from, TextView to, std::optional<FileMode> mode, Where at) override {
         const Source source(from, at);
         if (FolderExists(to)) throw Failure(Err::PermissionDenied, at);
-        Copy copy(source, to, rights, at);
+        Copy copy(source, to, mode, at);
         copy.Fill(at);
         copy.Finish(at);
     }
@@ -227,14 +223,22 @@ public:
         if (::unlink(Native(path, at).c_str()) != 0) throw FileFailure(errno, path, at);
     }
 
-    std::optional<std::uint32_t> ModeOf(TextView path) override {
+    std::optional<FileMode> ModeOf(TextView path) override {
         struct stat status {};
         if (!FileExists(path) || ::stat(Native(path, {}).c_str(), &status) != 0) return {};
         return status.st_mode & ALLPERMS;
     }
 
-    void SetMode(TextView path, std::uint32_t mode, Where at) override {
+    void SetMode(TextView path, FileMode mode, Where at) override {
         if (::chmod(Native(path, at).c_str(), mode) != 0) throw FileFailure(errno, path, at);
+    }
+
+    Text Resolved(TextView path) override {
+        std::error_code error;
+        const std::string native = Native(path, {});
+        if (!std::filesystem::is_symlink(native, error)) return Text(path);
+        const auto file = std::filesystem::canonical(native, error);
+        return error ? Text(path) : FromNativePath(file.native());
     }
 
     void CreateFolder(TextView path, Where at) override {

@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kEndRecord("PK\5\6", 4);
 constexpr std::size_t kFarthestEndRecord =
     65535 + 22 + 20; // bytes from the end: comment, record, its 64-bit kin
-constexpr zip_uint64_t kLargestMember = zip_uint64_t{1} << 30U;
+constexpr zip_uint64_t kMostHandedOut = zip_uint64_t{1} << 30U; // many members may share the same bytes
 constexpr std::size_t kPiece = std::size_t{1} << 18U;
 constexpr zip_uint32_t kDeflateLevel = 5;
 constexpr zip_uint32_t kOwnersFile = 0100600U
@@ -47,6 +47,7 @@ bool EndsLikeZip(FileSystem& files, TextView path, Where at) {
 
 struct ZipReader::Archive {
     Handle<zip_t> zip;
+    zip_uint64_t handedOut = 0; ///< bytes
 };
 
 ZipReader::ZipReader(FileSystem& files, TextView path, TextView password, Where at)
@@ -74,7 +75,7 @@ Text ZipReader::FileName(std::int32_t member) const {
     return name == "." || name == ".." ? Text() : FromUtf8(name);
 }
 
-bool ZipReader::Read(std::int32_t member, const std::function<void(std::string_view)>& piece) const {
+bool ZipReader::Read(std::int32_t member, const std::function<void(std::string_view)>& piece) {
     zip_t* const zip = archive_->zip.get();
     const auto index = static_cast<zip_uint64_t>(member);
     zip_stat_t status;
@@ -86,12 +87,11 @@ bool ZipReader::Read(std::int32_t member, const std::function<void(std::string_v
     Handle<zip_file_t> file(::zip_fopen_index(zip, index, 0));
     if (!file) return false;
     Bytes room(kPiece);
-    zip_uint64_t total = 0;
     zip_int64_t got = 0;
     // To the very end: only there the check sum is looked at.
     while ((got = ::zip_fread(file.get(), room.Data(), kPiece)) > 0) {
-        total += static_cast<zip_uint64_t>(got);
-        if (total > kLargestMember) return false;
+        archive_->handedOut += static_cast<zip_uint64_t>(got);
+        if (archive_->handedOut > kMostHandedOut) return false;
         piece(room.View().substr(0, static_cast<std::size_t>(got)));
     }
     return ::zip_fclose(file.release()) == 0 && got == 0;

@@ -12,7 +12,7 @@
 
 namespace htdrdd {
 
-/// Whether a file ends as archives do. What doesn't is none.
+/// Whether there is an archive's end record where it would be: a file without one is no archive.
 [[nodiscard]] bool EndsLikeZip(FileSystem& files, TextView path, Where at = Where::current());
 
 /// An archive to read. The file is read when it is opened, and may be replaced from then on. Every method
@@ -31,8 +31,9 @@ public:
     /// where that is no name for a file, as for folders.
     [[nodiscard]] Text FileName(std::int32_t member) const;
     /// Hands out a member's content, piece by piece. False where it can't be read: with a wrong password, or
-    /// damaged, by an unknown method, longer than 1 GiB. Pieces handed out before mean nothing then.
-    [[nodiscard]] bool Read(std::int32_t member, const std::function<void(std::string_view)>& piece) const;
+    /// damaged, by an unknown method, or where it takes what was handed out of this archive past 1 GiB.
+    /// Pieces handed out before mean nothing then.
+    [[nodiscard]] bool Read(std::int32_t member, const std::function<void(std::string_view)>& piece);
 
 private:
     struct Archive;

@@ -24,6 +24,12 @@ protected:
         return names;
     }
     std::string Exam() { return files.files[u"/exam.rdd"]; }
+    /// The lines of tests/words/NAME.txt.
+    static Text Lines(const std::string& name) {
+        Text text;
+        for (const std::string& line : Words(name)) text.append(FromUtf8(line)).append(u"\r\n");
+        return text;
+    }
 };
 
 constexpr TextView kSmall = u"[Report]\nNumQuestions=1\nNumSubtests=1\n\n[Subtest]\nSubtestName=All\n\n"
@@ -31,83 +37,38 @@ constexpr TextView kSmall = u"[Report]\nNumQuestions=1\nNumSubtests=1\n\n[Subtes
 constexpr TextView kBrokenVersions = u"[Report]\nNumQuestions=1\nNumVersions=2\n\n[Versions]\nQuestion=1\n"
                                      u"Answers=A\tA\n\n[Question]\nIDField=1\n";
 
-// tests/words/saved.txt was compared with the format's description by hand.
 TEST_F(DefinitionWriter, WritesEveryKeyInItsPlace) {
-    ASSERT_TRUE(Read(uR"([Report]
-TemplateName= T 
-NumQuestions=3
-NumVersions=2
-NumSubtests=2
-NumPages=2
-Type=1
-Notes=N=
-
-[Subtest]
-SubtestName=Overall
-Benchmark=70.5
-ScaleName=S
-NumValues=2
-Grades=A	B
-StartValues=90.5	0
-ScaledScoreName=Norm
-ScaledScoreCriteriaPrimary=1
-ScaledScoreValues=2
-ScaledScorePrecision=1
-ScaledScoreDBMinFieldPrimary=min
-ScaledScoreDBMaxFieldPrimary=max
-ScaledScoreDBScoreField=score
-ScaledScoreDBType=3
-ScaledScoreDBDSNBased=1
-
-[Subtest]
-SubtestName=Part
-
-[SubtestScale]
-NumValues=1
-Grades=C
-StartValues=0
-
-[Versions]
-Question=3
-Answers=A	B
-Sequence=1	2	3
-Sequence=2	1	3
-
-[Question]
-QuestionName=Q1
-AnswerValues=A	B	C
-AnswerCodes=1	2	3
-MissingValue=-.5
-MultiplesPermitted=-1
-IncludeGrade=1
-CorrectAnswer=B
-CorrectAnswerPoints=2
-CorrectPoints=2
-PartialCredit=-1
-SubtestNumber=1,1	2,.25
-
-[Question]
-QuestionName=Q2
-DataType=1
-SubjectiveField=1
-SubjectivePoints=5
-MaxValue=.5
-
-[Question]
-QuestionName=ID
-IDField=1
-
-)"));
+    ASSERT_TRUE(Read(Lines("to_save")));
     const auto& db = rdd->Subtests->Item(1)->ScaledScore->DB;
     db->Connect = u"server";
     db->User = u"me";
     files.files[u"/exam.rdd"] = "\xFF\xFE";
     ASSERT_TRUE(rdd->Save(u"/exam.rdd", false, false));
     EXPECT_EQ(Heard().size(), 1U) << "the versions can't be graded together";
-    Text text;
-    for (const std::string& line : Words("saved")) text.append(FromUtf8(line)).append(u"\r\n");
-    EXPECT_EQ(Exam(), Unicode(text));
+    EXPECT_EQ(Exam(), Unicode(Lines("saved")));
     EXPECT_TRUE(Temporaries().empty());
+}
+
+TEST_F(DefinitionWriter, WritesLittleOfAnEmptyDefinition) {
+    rdd->Header->RemoveAll();
+    const auto saved = [&](std::int32_t lVersionQuestion) {
+        rdd->Versions->Question = lVersionQuestion;
+        EXPECT_TRUE(rdd->Save(u"/exam.rdd", false, false));
+        return Exam();
+    };
+    const auto text = [](TextView versions, TextView question) {
+        return Unicode(Text(u"[Report]\r\nTemplateName=\r\nNumQuestions=0\r\nNumSequences=1\r\nNumVersions=")
+                           .append(versions)
+                           .append(u"\r\nNumSubtests=0\r\nNumPages=0\r\nVersion=9.1\r\nType=0\r\n"
+                                   u"Description=\r\nNotes=\r\nCustomHeader=0\r\n\r\n"
+                                   u"[Versions]\r\nQuestion=")
+                           .append(question)
+                           .append(u"\r\nAnswers=A\tB\r\n\r\n"));
+    };
+    rdd->Versions->Answers->AddDelimitedString(u"A\tB");
+    EXPECT_EQ(saved(0), text(u"0", u"0"));
+    rdd->Versions->Sequences->AddDefault(1);
+    EXPECT_EQ(saved(1), text(u"2", u"1")) << "the sequence of standard versions isn't filed";
 }
 
 TEST_F(DefinitionWriter, FilesAGenericKeyByThePositionsOfAnswers) {
@@ -146,14 +107,17 @@ TEST_F(DefinitionWriter, KeepsAnOldFileOfSingleBytes) {
     files.modes[u"/exam.rdd"] = 0600;
     for (const bool bEncrypt : {true, false, true, true}) EXPECT_TRUE(rdd->Save(u"/exam.rdd", bEncrypt));
     EXPECT_EQ(files.modes[u"/exam.rdd"], 0600U) << "a key stays as secret as it was";
+    EXPECT_EQ(files.modes[u"/exam.rdd.old"], 0600U);
     EXPECT_EQ(files.files.count(u"/exam.rdd.old.old"), 0U);
     EXPECT_EQ(files.files[u"/exam.rdd.old"], old);
-    const std::string current = Exam();
     files.files[u"/exam.rdd"] = "older still";
     EXPECT_TRUE(rdd->Save(u"/exam.rdd", false));
     EXPECT_EQ(files.files[u"/exam.rdd.old"], old) << "the first backup stays";
     EXPECT_TRUE(rdd->Read(u"/exam.rdd"));
-    EXPECT_EQ(Temporaries().size(), 3U) << "this is meant: the text of each archive stays";
+    files.files.erase(u"/exam.rdd.old");
+    EXPECT_TRUE(rdd->Save(u"/exam.rdd") && rdd->Save(u"/exam.rdd", false));
+    EXPECT_EQ(files.files.count(u"/exam.rdd.old"), 0U) << "neither text nor archive are backed up";
+    EXPECT_EQ(Temporaries().size(), 4U) << "this is meant: the text of each archive stays";
     for (const Text& file : Temporaries()) EXPECT_EQ(files.files[file], Exam());
 }
 
@@ -172,6 +136,7 @@ TEST_F(DefinitionWriter, AsksBeforeItSavesInvalidVersions) {
         EXPECT_THAT(Heard(), ::testing::ElementsAre(::testing::HasSubstr("ValidateVersions"), question));
         EXPECT_TRUE(Exam() == before && Temporaries().empty() && rdd->FileName == u"name");
         EXPECT_EQ(rdd->GradeScale->Count(), 1) << "the document has changed all the same";
+        EXPECT_FALSE(rdd->GradeScale == scale);
     }
     host->answer = 1;
     EXPECT_TRUE(rdd->Save(u"/exam.rdd", false));

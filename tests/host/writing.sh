@@ -78,6 +78,7 @@ refused() {
     run convert --plain exam.rdd none/new
     run header save missing.rdd new
     run header save exam.rdd none/new
+    run header save exam.rdd ./exam.rdd
     run header load missing.rdd exam.header -o new
     for name in missing.header folder exam.rdd; do run header load exam.rdd $name -o new; done
     run header load exam.rdd exam.header

@@ -40,8 +40,8 @@ TEST_F(MachineFiles, FailuresTellWhatIsWrong) {
         return std::vector{FailureOf([&] { return files.Read(path); }),
                            FailureOf([&] { return files.OpenForAppending(path); }),
                            FailureOf([&] { files.DeleteFile(path); }),
-                           FailureOf([&] { files.CopyFile(path, Put(u"other", ""), Rights::OfNewFile); }),
-                           FailureOf([&] { files.CopyFile(file, path, Rights::OfNewFile); })};
+                           FailureOf([&] { files.CopyFile(path, Put(u"other", "")); }),
+                           FailureOf([&] { files.CopyFile(file, path); })};
     };
     EXPECT_EQ(failures(none + u"/x"), (std::vector{76, 76, 76, 76, 76}));
     EXPECT_EQ(failures(file + u"/x"), (std::vector{76, 76, 76, 76, 76}));
@@ -59,7 +59,7 @@ TEST_F(MachineFiles, AreReadCopiedAppendedToAndDeleted) {
     EXPECT_FALSE(files.FileExists(Path(u"*")) || files.FileExists(Path(u"")) ||
                  files.FileExists(odd + u'\0') || files.FolderExists(odd));
     const Text log = Put(u"log", "older content");
-    files.CopyFile(odd, log, Rights::OfNewFile);
+    files.CopyFile(odd, log);
     for (const TextView line : {u"é€", u"☺"}) {
         TextAppender appender(files, log);
         appender.WriteLine(line);
@@ -93,19 +93,19 @@ TEST_F(MachineFiles, AreCopiedWholeOrNotAtAll) {
     const auto handler = ::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
     for (const TextView to : {u"old", u"link", u"new"})
-        EXPECT_NE(FailureOf([&] { files.CopyFile(source, Path(to), Rights::OfSource); }), 0);
+        EXPECT_NE(FailureOf([&] { files.CopyFile(source, Path(to), 0640); }), 0);
     ::setrlimit(RLIMIT_FSIZE, &limit);
     ::signal(SIGXFSZ, handler);
     EXPECT_EQ(files_in_folder(), number);
     EXPECT_EQ(files.Read(old).View(), "old");
 
-    files.CopyFile(source, Path(u"link"), Rights::OfNewFile);
-    EXPECT_TRUE(fs::is_symlink(ToNativePath(Path(u"link"))));
+    files.CopyFile(source, files.Resolved(Path(u"link")));
+    EXPECT_EQ(files.Resolved(Path(u"none")), Path(u"none"));
     EXPECT_EQ(files.Read(old).View(), "0123456789");
     EXPECT_EQ(mode(old), 0604U) << "a file that is there keeps its rights";
-    files.CopyFile(source, Path(u"backup"), Rights::OfSource);
-    files.CopyFile(source, Path(u"new"), Rights::OfNewFile);
-    files.CopyFile(source, Path(u"own"), Rights::OwnerOnly);
+    files.CopyFile(source, Path(u"backup"), files.ModeOf(source));
+    files.CopyFile(source, Path(u"new"));
+    files.CopyFile(source, Path(u"own"), kOwnerOnly);
     const mode_t mask = ::umask(0);
     ::umask(mask);
     EXPECT_EQ(mode(Path(u"backup")), 0640U);

@@ -15,7 +15,7 @@ class MemoryFileSystem final : public FileSystem {
 public:
     std::map<Text, std::string> files;
     std::set<Text> folders{u"/tmp"};
-    std::map<Text, std::uint32_t> modes; ///< of those files that were given one
+    std::map<Text, FileMode> modes; ///< of those files that were given one
     /// The operation that fails, counted from 1; 0: none. Looking whether something is there never fails.
     int failingOperation = 0;
     Err failure = Err::PermissionDenied;
@@ -45,11 +45,11 @@ public:
         Count(at);
         return std::make_unique<Writer>(*this, files[Text(path)]);
     }
-    void CopyFile(TextView from, TextView to, Rights rights, Where at) override {
+    void CopyFile(TextView from, TextView to, std::optional<FileMode> mode, Where at) override {
         Count(at, refusedCopies-- > 0);
         const std::string content = Find(from, at);
-        if (rights == Rights::OwnerOnly && files.count(Text(to)) != 0) throw Failure(Err::FileExists, at);
         Place(to, at) = content;
+        if (mode) modes[Text(to)] = *mode;
     }
     void DeleteFile(TextView path, Where at) override {
         Count(at, refusedDeletions-- > 0);
@@ -57,14 +57,15 @@ public:
         files.erase(Text(path));
         modes.erase(Text(path));
     }
-    std::optional<std::uint32_t> ModeOf(TextView path) override {
+    std::optional<FileMode> ModeOf(TextView path) override {
         const auto mode = modes.find(Text(path));
         return mode != modes.end() ? std::optional(mode->second) : std::nullopt;
     }
-    void SetMode(TextView path, std::uint32_t mode, Where at) override {
+    void SetMode(TextView path, FileMode mode, Where at) override {
         Count(at);
         modes[Text(path)] = mode;
     }
+    Text Resolved(TextView path) override { return Text(path); }
     void CreateFolder(TextView path, Where at) override {
         Count(at);
         if (path.empty() || !HasFolder(path)) throw Failure(Err::PathNotFound, at);
