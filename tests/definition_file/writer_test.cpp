@@ -171,6 +171,7 @@ protected:
 
 TEST_F(ArchivedDefinition, IsReadIfItHoldsOneText) {
     EXPECT_TRUE(ReadPacked({Unicode(kSmall)}));
+    EXPECT_THAT(files.modes, ::testing::ElementsAre(::testing::Pair(::testing::_, 0600U))) << "the copy";
     EXPECT_TRUE(ReadPacked({ToUtf8(kSmall)}, basTemplate::ArchivePassword()));
     EXPECT_EQ(rdd->Subtests->Item(1)->SubtestName, u"All");
     rdd->NumPages = 7;
