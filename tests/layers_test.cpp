@@ -14,9 +14,9 @@ std::string First(const std::string& path) { return path.substr(0, path.find('/'
 
 /// A folder includes itself and the folders in front of it. Those in no layer come behind all others.
 std::size_t Layer(const std::string& path) {
-    static const std::string layers =
-        "platform foundation grade_scales scaled_scores model validation definition_file merge component";
-    return layers.find(First(path));
+    return std::string("platform foundation grade_scales scaled_scores model validation definition_file "
+                       "merge component")
+        .find(First(path));
 }
 
 /// Files in a folder, and what a pattern's last group finds in their lines.
@@ -26,7 +26,6 @@ std::vector<std::pair<std::string, std::string>> Lines(const std::string& folder
     const std::regex wanted(pattern);
     std::vector<std::pair<std::string, std::string>> lines;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
-        if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
         std::ifstream source(entry.path());
         std::smatch match;
         for (std::string text; std::getline(source, text);)

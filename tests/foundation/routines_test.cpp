@@ -61,25 +61,24 @@ TEST_F(FileRoutines, TemporaryNamesAreFreeAndUnicodeFilesAreMarked) {
 class Routines : public Session {};
 
 TEST_F(Routines, OneTrailingDelimiterDoesNotCount) {
-    Check({u" -> , -> 0", u"a -> , -> 1", u"a,b -> , -> 2", u"a,b, -> , -> 2", u",a -> , -> 2",
-           u", -> , -> 1", u"a,, -> , -> 2", u"a; b -> ;  -> 2", u",,, -> ,, -> 2", u"aXb -> x -> 1"},
+    Check({u" -> , -> 0", u"a,b -> , -> 2", u"a,b, -> , -> 2", u", -> , -> 1", u"a,, -> , -> 2",
+           u"a; b -> ;  -> 2", u",,, -> ,, -> 2", u"aXb -> x -> 1"},
           [](const Fields& row) { return DecimalText(NumStringItems(row[0], row[1])); });
-    Check({u"a,, -> , -> a,", u"a -> ba -> a", u"aX -> x -> aX", u"a ->  -> a", u", -> , -> "},
+    Check({u"a,, -> , -> a,", u"a -> ba -> a", u"aX -> x -> aX", u"a ->  -> a"},
           [](const Fields& row) { return RemoveTrailingDelimiter(row[0], row[1]); });
 }
 
 TEST_F(Routines, ToDoubleNeverFails) {
-    Check({u"85% -> 85 / 85", u"1.5x -> 1.5 / 1.5", u"1,5 -> 15 / 1.5", u"89,5% -> 895 / 89.5",
-           u"1.234,5 -> 1.234 / 1.234", u"abc -> 0 / 0", u" -> 0 / 0", u"% -> 0 / 0", u"(5) -> -5 / -5",
-           u"1 2 -> 12 / 12", u"1e999 -> 0 / 0", u"1.e999 -> 0 / 0"},
-          [](const Fields& row) { return InBothRegions([&] { return InvariantText(ToDouble(row[0])); }); });
+    CheckWords("numbers_of_any_text", [](const Fields& row) {
+        return InBothRegions([&] { return InvariantText(ToDouble(row[0])); });
+    });
     EXPECT_EQ(ToDouble(true) + ToDouble(2.5), 1.5);
     for (const Variant& none : {Variant(), Variant::Null(), Variant(rdd)}) EXPECT_EQ(ToDouble(none), 0);
 }
 
 Text Sorted(decltype(QuickSortArray) sort, TextView items, bool descending) {
     auto array = Split(items, u",");
-    EXPECT_TRUE(sort(array, array.LowerBound(), array.UpperBound(), descending));
+    EXPECT_TRUE(sort(array, 0, array.UpperBound(), descending));
     return Join(array, u",");
 }
 
@@ -112,15 +111,11 @@ TEST_F(Routines, EncipheredTextsComeBackWithEveryUnit) {
         EXPECT_EQ(HexToUnicode(Decrypt(enciphered)), text);
     }
     EXPECT_EQ(Encrypt(u"sa"), u"0A01B9E314C1DB21") << "files that are there need the same key for ever";
-    EXPECT_EQ(Encrypt(u"") + Decrypt(u""), u"");
-}
-
-TEST_F(Routines, WhatIsNotEncipheredFails) {
-    for (const TextView text : {u"plain", u"0123456789ABCDE", u"0123456789ABCDEG", u"0a01b9e314c1db21"})
+    for (const TextView text : {u"", u"plain", u"0123456789ABCDE", u"0123456789ABCDEG", u"0a01b9e314c1db21"})
         EXPECT_EQ(Decrypt(text), u"");
-    const std::string argument = kArgument + "basPublic.Decrypt";
-    const std::string mismatch = kTypeMismatch + "basPublic.Decrypt";
-    EXPECT_EQ(Heard(), (Said{argument, argument, mismatch, mismatch}));
+    const std::string member = "basPublic.Decrypt";
+    EXPECT_EQ(Heard(),
+              (Said{kArgument + member, kArgument + member, kTypeMismatch + member, kTypeMismatch + member}));
 }
 
 TEST_F(Routines, HexadecimalHasTheLowByteFirst) {
@@ -132,9 +127,9 @@ TEST_F(Routines, HexadecimalHasTheLowByteFirst) {
     EXPECT_EQ(Heard(), Said());
     for (const TextView broken : {u"41004", u"410042004", u"41G", u"41 0"})
         EXPECT_EQ(HexToUnicode(broken), u"");
-    const std::string subscript = kSubscript + "basPublic.HexToUnicode";
-    const std::string mismatch = kTypeMismatch + "basPublic.HexToUnicode";
-    EXPECT_EQ(Heard(), (Said{subscript, subscript, mismatch, mismatch}));
+    const std::string member = "basPublic.HexToUnicode";
+    EXPECT_EQ(Heard(), (Said{kSubscript + member, kSubscript + member, kTypeMismatch + member,
+                             kTypeMismatch + member}));
 }
 
 } // namespace

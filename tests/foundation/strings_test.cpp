@@ -10,9 +10,8 @@ protected:
 };
 
 TEST_F(Strings, DelimitedTextsComeApartAndTogether) {
-    EXPECT_TRUE(list->AddDelimitedString(u"A,B,,", u","));
+    EXPECT_TRUE(list->AddDelimitedString(u"A,B,,", u",") && list->AddDelimitedString(u"C\tD"));
     EXPECT_FALSE(list->AddDelimitedString(u"", u",")) << "although nothing went wrong";
-    EXPECT_TRUE(list->AddDelimitedString(u"C\tD"));
     EXPECT_EQ(list->AsString(), u"A\tB\t\t\tC\tD");
     list->RemoveAll();
     list->Add(u"");

@@ -40,10 +40,9 @@ TEST_F(ModelLists, AQuestionHasOneHighestCodeAndTextsOnOneLine) {
 }
 
 TEST_F(ModelLists, QuestionsAreInsertedOrReported) {
-    Add(u"a");
-    Add(u"c");
+    for (const TextView name : {u"a", u"c"}) Add(name);
     list.Add(question, u"b", {}, u"A");
-    EXPECT_EQ(list.Item(u"B"), question) << "nothing is copied";
+    EXPECT_EQ(list.Item(2), question) << "nothing is copied";
     list.Add(question, u"B");
     list.Add(question, {}, 1, 1);
     list.Remove(u"none");
@@ -69,8 +68,7 @@ TEST_F(ModelLists, WalksMayDemandMoreThanCountsDo) {
     EXPECT_EQ((std::vector{list.NumGraded(), list.NumSubjective(), list.NumTallied(), list.NumExtraCredit(),
                            list.NumPartialCredit()}),
               (std::vector{2, 1, 2, 3, 4}));
-    for (const std::int32_t from : {-1, INT32_MIN, 5, 6, 7, INT32_MAX})
-        EXPECT_EQ(list.NextGraded(from), 0) << from;
+    for (const std::int32_t from : {-1, INT32_MIN, 5, INT32_MAX}) EXPECT_EQ(list.NextGraded(from), 0) << from;
     list.Add(nullptr, u"key"); // fails whoever meets it
     EXPECT_FALSE(list.Exists(7) || list.Exists(u"key"));
     EXPECT_EQ(list.NextGraded(2), 5);
@@ -96,21 +94,23 @@ TEST_F(ModelLists, ASequenceKeepsPlacesAndItsArrayABound) {
 
 /// Number of sequences, version identifiers, position of the question, and what follows from them.
 TEST_F(ModelLists, TheSchemeOfVersionsFollowsFromWhatIsFilledIn) {
-    Check({u"0 ->  -> 0 -> 0", u"0 -> A,B -> 3 -> 1", u"1 -> A,B -> 3 -> 1", u"0 -> A -> 3 -> 0",
-           u"0 -> A,B -> 0 -> 0", u"2 -> A,B -> 3 -> 2", u"3 -> A,B -> 3 -> 0", u"2 -> A,B,C -> 3 -> 0",
-           u"2 -> A,B -> -1 -> 0"},
+    Check({u"0 ->  -> 0 -> 0", u"1 -> A,B -> 3 -> 1", u"0 -> A -> 3 -> 0", u"0 -> A,B -> 0 -> 0",
+           u"2 -> A,B -> 3 -> 2", u"3 -> A,B -> 3 -> 0", u"2 -> A,B,C -> 3 -> 0", u"2 -> A,B -> -1 -> 0"},
           [&](const Fields& row) {
-              rdd->Clear();
-              for (int i = 0; i < LeadingNumber(row[0]); ++i) rdd->Versions->Sequences->Add(nullptr);
-              rdd->Versions->Answers->AddDelimitedString(row[1], u",");
-              rdd->Versions->Question = Rounded<std::int32_t>(LeadingNumber(row[2]));
-              return DecimalText(rdd->Versions->VType());
+              const auto versions = Make<clsHTDRDDVersions>();
+              for (int i = 0; i < LeadingNumber(row[0]); ++i) versions->Sequences->Add(nullptr);
+              versions->Answers->AddDelimitedString(row[1], u",");
+              versions->Question = Rounded<std::int32_t>(LeadingNumber(row[2]));
+              return DecimalText(versions->VType());
           });
-    EXPECT_FALSE(rdd->Versions->Sequences->AddDefault(3)) << "there are some";
-    rdd->Versions->Sequences->RemoveAll();
-    EXPECT_TRUE(rdd->Versions->Sequences->AddDefault(-5));
-    rdd->Versions->Sequences = nullptr;
-    EXPECT_EQ(rdd->Versions->VType(), HTDVersionTypeNone);
+    const auto versions = Make<clsHTDRDDVersions>();
+    EXPECT_TRUE(versions->Sequences->AddDefault(-5));
+    EXPECT_FALSE(versions->Sequences->AddDefault(3)) << "there is one";
+    versions->Sequences->RemoveAll();
+    EXPECT_TRUE(versions->Sequences->AddDefault(3));
+    EXPECT_EQ(versions->Sequences->Item(1)->AsString(), u"1\t2\t3");
+    versions->Sequences = nullptr;
+    EXPECT_EQ(versions->VType(), HTDVersionTypeNone);
     EXPECT_EQ(Heard(), Said{kNotSet + "clsHTDRDDVersions.VType"});
 }
 
@@ -141,12 +141,11 @@ TEST_F(ModelLists, MembershipsThatAreOnlyAnnouncedCostNothing) {
     memberships->AddMany(-1);
     memberships->AddMany(2147483646);
     memberships->SetInclude(2147483646, true);
-    memberships->Item(5)->Weight = 2;
+    memberships->SetWeight(5, 2);
     memberships->Remove(1);
-    EXPECT_EQ(memberships->WeightOf(4), 2);
-    EXPECT_TRUE(memberships->Includes(2147483645));
+    EXPECT_TRUE(memberships->WeightOf(4) == 2 && memberships->Includes(2147483645));
+    EXPECT_EQ(FailureOf([&] { memberships->AddMany(3); }), 6);
     memberships->AddMany(2);
-    EXPECT_EQ(FailureOf([&] { memberships->AddMany(1); }), 6);
     memberships->Add(true);
     EXPECT_EQ(memberships->Count(), 2147483647);
     EXPECT_EQ(Heard(), Said{kOverflow + "clsHTDRDDQuestionSubtests.Add"});
@@ -154,25 +153,24 @@ TEST_F(ModelLists, MembershipsThatAreOnlyAnnouncedCostNothing) {
 
 TEST_F(ModelLists, MembershipsMixValuesAndObjectsAsAPlainListDoes) {
     const auto memberships = Make<clsHTDRDDQuestionSubtests>();
-    std::vector<std::pair<bool, double>> plain; // include and weight
+    memberships->AddMany(1);                                // for each operation there is one
+    std::vector<std::pair<bool, double>> plain{{false, 1}}; // include and weight
     std::mt19937 random(91);
     for (int step = 0; step < 3000; ++step) {
-        const bool include = random() % 2 != 0;
-        const auto weight = static_cast<double>(random() % 4);
-        const std::size_t slot = plain.empty() ? 0 : random() % plain.size();
-        const auto l = static_cast<std::int32_t>(slot) + 1;
         const auto membership = Make<clsHTDRDDQuestionSubtest>();
-        membership->Include = include;
-        membership->Weight = weight;
-        switch (plain.empty() ? random() % 3 : random() % (plain.size() > 30 ? 14 : 8)) {
+        const bool include = membership->Include = random() % 2 != 0;
+        const double weight = membership->Weight = static_cast<double>(random() % 4);
+        const auto l = static_cast<std::int32_t>(random() % plain.size()) + 1;
+        auto& there = plain[static_cast<std::size_t>(l) - 1];
+        switch (random() % (plain.size() > 30 ? 14 : plain.size() > 1 ? 8 : 7)) {
         case 0: memberships->Add(include), plain.emplace_back(include, 1); break;
         case 1: memberships->Add(membership), plain.emplace_back(include, weight); break;
         case 2: memberships->AddMany(2), plain.resize(plain.size() + 2, {false, 1}); break;
-        case 3: memberships->SetInclude(l, plain[slot].first = include); break;
-        case 4: memberships->SetWeight(l, plain[slot].second = weight); break;
-        case 5: memberships->Item(l)->Include = plain[slot].first = include; break;
-        case 6: memberships->Item(l, membership), plain[slot] = {include, weight}; break;
-        default: memberships->Remove(l), plain.erase(plain.begin() + static_cast<std::ptrdiff_t>(slot));
+        case 3: memberships->SetInclude(l, there.first = include); break;
+        case 4: memberships->SetWeight(l, there.second = weight); break;
+        case 5: memberships->Item(l)->Include = there.first = include; break;
+        case 6: memberships->Item(l, membership), there = {include, weight}; break;
+        default: memberships->Remove(l), plain.erase(plain.begin() + l - 1);
         }
         ASSERT_EQ(memberships->Count(), static_cast<std::int32_t>(plain.size()));
         for (std::int32_t n = 1; n <= memberships->Count(); ++n)

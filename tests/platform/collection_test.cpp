@@ -23,38 +23,37 @@ TEST(CollectionTest, AgreesWithAPlainListWhateverItsLength) {
     std::vector<std::pair<Text, std::optional<Text>>> plain; // items and keys
     Collection<Text> list;
     std::mt19937 random(91);
-    const auto below = [&](std::size_t n) { return static_cast<std::size_t>(random() % n); };
     const auto find = [&](TextView key) {
         return std::find_if(plain.begin(), plain.end(),
                             [&](const auto& entry) { return entry.second && SameText(*entry.second, key); });
     };
     for (int step = 0; step < 6000; ++step) {
-        const Text text{static_cast<char16_t>(u'a' + below(26)), static_cast<char16_t>(u'A' + below(2) * 32)};
+        const Text text{static_cast<char16_t>(u'a' + random() % 26),
+                        static_cast<char16_t>(u'A' + random() % 2 * 32)};
         const auto keyed = find(text);
         const bool known = keyed != plain.end();
-        const auto place = plain.begin() + static_cast<std::ptrdiff_t>(below(plain.size() + 1));
+        const auto place = plain.begin() + static_cast<std::ptrdiff_t>(random() % (plain.size() + 1));
         const bool there = place != plain.end();
         const auto position = static_cast<std::int32_t>(place - plain.begin()) + 1;
-        switch (below(plain.size() > 45 ? 9 : 6)) {
+        switch (random() % (plain.size() > 45 ? 8 : 5)) {
         case 0:
             list.AddUnderOwnText(text);
             plain.emplace_back(text, known ? std::nullopt : std::optional(text));
             break;
         case 1:
-        case 2:
             ASSERT_EQ(FailureOf([&] { list.Add(text, text, there ? Index(position) : Index()); }),
                       known ? 457 : 0);
             if (!known) plain.emplace(place, text, text);
             break;
-        case 3:
+        case 2:
             ASSERT_EQ(FailureOf([&] { list.Add(text, {}, {}, text); }), known ? 0 : 5);
             if (known) plain.emplace(keyed + 1, text, std::nullopt);
             break;
-        case 4:
+        case 3:
             ASSERT_EQ(FailureOf([&] { list.Replace(position, text); }), there ? 0 : 9);
             if (there) *place = {text, std::nullopt};
             break;
-        case 5:
+        case 4:
             ASSERT_EQ(FailureOf([&] { list.Remove(text); }), known ? 0 : 5);
             if (known) plain.erase(keyed);
             break;
@@ -67,8 +66,7 @@ TEST(CollectionTest, AgreesWithAPlainListWhateverItsLength) {
             ASSERT_EQ(list.Item(static_cast<std::int32_t>(i) + 1), plain[i].first) << "step " << step;
         const auto found = find(text);
         const Text* const item = list.TryItem(text);
-        ASSERT_EQ(item != nullptr, found != plain.end());
-        ASSERT_TRUE(item == nullptr || *item == found->first) << "step " << step;
+        ASSERT_EQ(item != nullptr ? *item : u"none", found != plain.end() ? found->first : u"none");
     }
 }
 

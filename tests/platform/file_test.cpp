@@ -12,14 +12,16 @@
 namespace htdrdd::test {
 namespace {
 
+namespace fs = std::filesystem;
+
 /// The machine's file system in a folder of the test's own.
 class MachineFiles : public ::testing::Test {
 protected:
     MachineFiles() {
-        std::string name = (std::filesystem::temp_directory_path() / "htdrdd-XXXXXX").string();
+        std::string name = (fs::temp_directory_path() / "htdrdd-XXXXXX").string();
         folder_ = ::mkdtemp(name.data());
     }
-    ~MachineFiles() override { std::filesystem::remove_all(folder_); }
+    ~MachineFiles() override { fs::remove_all(folder_); }
 
     Text Path(TextView name) const { return BuildPath(FromNativePath(folder_.native()), name); }
     Text Put(TextView name, std::string_view bytes) const {
@@ -27,26 +29,24 @@ protected:
         return Path(name);
     }
 
-    std::filesystem::path folder_;
+    fs::path folder_;
     FileSystem& files = MachineFileSystem();
 };
 
 TEST_F(MachineFiles, FailuresTellWhatIsWrong) {
     const Text file = Put(u"file", "x");
-    const Text folder = Path(u"");
     const Text none = Path(u"none");
     /// Failures of reading, appending, deleting, and of copying from there and to there.
     const auto failures = [&](const Text& path) {
-        return std::vector{FailureOf([&] { return files.Read(path); }),
-                           FailureOf([&] { return files.OpenForAppending(path); }),
+        return std::vector{FailureOf([&] { files.Read(path); }),
+                           FailureOf([&] { files.OpenForAppending(path); }),
                            FailureOf([&] { files.DeleteFile(path); }),
                            FailureOf([&] { files.CopyFile(path, Put(u"other", "")); }),
                            FailureOf([&] { files.CopyFile(file, path); })};
     };
-    EXPECT_EQ(failures(none + u"/x"), (std::vector{76, 76, 76, 76, 76}));
-    EXPECT_EQ(failures(file + u"/x"), (std::vector{76, 76, 76, 76, 76}));
-    EXPECT_EQ(failures(folder), (std::vector{70, 70, 70, 70, 70}));
-    EXPECT_EQ(failures(file + u'\0'), (std::vector{52, 52, 52, 52, 52}));
+    for (const auto& [path, number] :
+         {std::pair(none + u"/x", 76), {file + u"/x", 76}, {Path(u""), 70}, {file + u'\0', 52}})
+        EXPECT_EQ(failures(path), std::vector(5, number)) << ToUtf8(path);
     EXPECT_EQ(FailureOf([&] { return files.Read(none); }), 53);
     EXPECT_EQ(FailureOf([&] { files.DeleteFile(none); }), 53);
     TextAppender full(files, u"/dev/full");
@@ -68,7 +68,7 @@ TEST_F(MachineFiles, AreReadCopiedAppendedToAndDeleted) {
     EXPECT_EQ(files.Read(log).View(), "new\r\n\xE9\x80\r\n?\r\n");
     EXPECT_EQ(files.Read(log, 2).View(), "ne");
     EXPECT_EQ(files.Read(Put(u"empty", "")).View(), "");
-    std::filesystem::permissions(ToNativePath(log), std::filesystem::perms::owner_read);
+    fs::permissions(ToNativePath(log), fs::perms::owner_read);
     files.DeleteFile(log);
     EXPECT_FALSE(files.FileExists(log));
     EXPECT_EQ(BuildPath(u"/a/", FileNameOf(log)) + BuildPath(u"", FileNameOf(u"b")), u"/a/logb");
@@ -76,9 +76,8 @@ TEST_F(MachineFiles, AreReadCopiedAppendedToAndDeleted) {
 }
 
 TEST_F(MachineFiles, AreCopiedWholeOrNotAtAll) {
-    namespace fs = std::filesystem;
-    const auto mode = [&](const Text& path) {
-        return static_cast<unsigned>(fs::status(ToNativePath(path)).permissions());
+    const auto mode = [&](TextView name) {
+        return static_cast<unsigned>(fs::status(ToNativePath(Path(name))).permissions());
     };
     const Text source = Put(u"source", "0123456789");
     const Text old = Put(u"old", "old");
@@ -102,22 +101,20 @@ TEST_F(MachineFiles, AreCopiedWholeOrNotAtAll) {
     files.CopyFile(source, files.Resolved(Path(u"link")));
     EXPECT_EQ(files.Resolved(Path(u"none")), Path(u"none"));
     EXPECT_EQ(files.Read(old).View(), "0123456789");
-    EXPECT_EQ(mode(old), 0604U) << "a file that is there keeps its rights";
+    EXPECT_EQ(mode(u"old"), 0604U) << "a file that is there keeps its rights";
     files.CopyFile(source, Path(u"backup"), files.ModeOf(source));
     files.CopyFile(source, Path(u"new"));
     files.CopyFile(source, Path(u"own"), kOwnerOnly);
     const mode_t mask = ::umask(0);
     ::umask(mask);
-    EXPECT_EQ(mode(Path(u"backup")), 0640U);
-    EXPECT_EQ(mode(Path(u"new")), 0666U & ~mask);
-    EXPECT_EQ(mode(Path(u"own")), 0600U);
+    EXPECT_EQ((std::vector{mode(u"backup"), mode(u"new"), mode(u"own")}),
+              (std::vector{0640U, 0666U & ~mask, 0600U}));
     files.SetMode(Path(u"new"), files.ModeOf(Path(u"own")).value());
-    EXPECT_EQ(mode(Path(u"new")), 0600U);
+    EXPECT_EQ(mode(u"new"), 0600U);
     EXPECT_FALSE(files.ModeOf(Path(u"none")) || files.ModeOf(Path(u"")));
 }
 
 TEST_F(MachineFiles, TemporaryOnesAreMadeAnewAndGoWithTheirFolder) {
-    namespace fs = std::filesystem;
     const Text folder = Path(u"folder");
     const Text outside = Put(u"outside", "0123456789");
     files.CreateFolder(folder);
@@ -138,7 +135,7 @@ TEST_F(MachineFiles, TemporaryOnesAreMadeAnewAndGoWithTheirFolder) {
 }
 
 /// The lines of a file, "|" behind each.
-Text Lines(const std::string& bytes, Encoding encoding) {
+Text Lines(const std::string& bytes, Encoding encoding = Encoding::Unicode) {
     MemoryFileSystem files;
     files.files[u"/file"] = bytes;
     TextReader reader(files, u"/file", encoding);
@@ -152,10 +149,10 @@ TEST(Lines, EndAtALineFeedWithOneCarriageReturnInFront) {
     EXPECT_EQ(Lines("", Encoding::CodePage) + Lines("\n", Encoding::CodePage), u"|");
     EXPECT_EQ(Lines("a\r\nb\n\nc\rd\r\r\ne\r", Encoding::CodePage), u"a|b||c\rd\r|e\r|");
     EXPECT_EQ(Lines("\xFF\xFE\x80", Encoding::CodePage), u"ÿþ€|");
-    EXPECT_EQ(Lines("\xFF", Encoding::Unicode) + Lines("\xFF\xFE", Encoding::Unicode), u"");
-    EXPECT_EQ(Lines(Unicode(u"a\r\nb") + "\n", Encoding::Unicode), u"a|b|") << "an odd last byte is dropped";
-    EXPECT_EQ(Lines(Unicode(u"a").substr(2), Encoding::Unicode), u"a|");
-    EXPECT_EQ(Lines(Unicode(u"\u0A0A\n\u0A0Ax\u010A\u0A00\r\n\u0A0D\n"), Encoding::Unicode),
+    EXPECT_EQ(Lines("\xFF") + Lines("\xFF\xFE"), u"");
+    EXPECT_EQ(Lines(Unicode(u"a\r\nb") + "\n"), u"a|b|") << "an odd last byte is dropped";
+    EXPECT_EQ(Lines(Unicode(u"a").substr(2)), u"a|");
+    EXPECT_EQ(Lines(Unicode(u"\u0A0A\n\u0A0Ax\u010A\u0A00\r\n\u0A0D\n")),
               u"\u0A0A|\u0A0Ax\u010A\u0A00|\u0A0D|")
         << "half of a character is no line feed";
 }

@@ -45,12 +45,10 @@ TEST(Values, ConvertByTheRulesOfTheRegion) {
     EXPECT_EQ(Variant(Variant(u"1,50").ToDouble()).ToText() + Variant::Empty().ToText(), u"1,5");
     EXPECT_TRUE(Variant(u"tRUE").ToBoolean() && Variant(.1).ToBoolean() && !Variant(u"False").ToBoolean());
     Text converted;
-    for (const Variant& value :
-         {Variant(u"2,5"), Variant(true), Variant::Empty(), Variant(), Variant::Null(),
-          Variant(Make<Thing>()), Variant(Ref<Thing>()), Variant(u"abc"), Variant(32767.5)})
+    for (const Variant& value : {Variant(u"2,5"), Variant(true), Variant::Empty(), Variant(32767.5),
+                                 Variant(), Variant::Null(), Variant(Make<Thing>()), Variant(Ref<Thing>())})
         converted += Outcome([&] { return value.ToInteger16(); }) + u"; ";
-    EXPECT_EQ(converted,
-              u"2; -1; 0; failure 449; failure 94; failure 438; failure 91; failure 13; failure 6; ");
+    EXPECT_EQ(converted, u"2; -1; 0; failure 6; failure 449; failure 94; failure 438; failure 91; ");
 }
 
 TEST(Threads, HaveAStateOfTheirOwnThatEndsWithThem) {

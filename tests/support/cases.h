@@ -3,11 +3,13 @@
 
 #include "platform/number.h"
 #include "platform/region.h"
+#include "support/words.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <initializer_list>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -15,13 +17,20 @@ namespace htdrdd::test {
 
 using Fields = std::vector<Text>;
 
-/// Checks rows such as "text -> another -> result": `tell` makes the result of the fields in front of it.
+/// Checks a row such as "text -> another -> result": `tell` makes the result of the fields in front of it.
+template <class Tell>
+void CheckRow(TextView row, Tell tell) {
+    const Fields fields = Split(row, u" -> ").Items();
+    EXPECT_EQ(tell(fields), fields.back()) << ToUtf8(row);
+}
 template <class Tell>
 void Check(std::initializer_list<TextView> rows, Tell tell) {
-    for (const TextView row : rows) {
-        const Fields fields = Split(row, u" -> ").Items();
-        EXPECT_EQ(tell(fields), fields.back()) << ToUtf8(row);
-    }
+    for (const TextView row : rows) CheckRow(row, tell);
+}
+/// The rows are the lines of tests/words/NAME.txt.
+template <class Tell>
+void CheckWords(const std::string& name, Tell tell) {
+    for (const std::string& row : Words(name)) CheckRow(FromUtf8(row), tell);
 }
 
 /// Number of the failure that a statement ends in, 0 where it doesn't fail.

@@ -3,20 +3,14 @@
 
 #include "model/clsHTDRDD.h"
 #include "platform/number.h"
+#include "support/words.h"
 
-#include <string_view>
+#include <string>
 
 namespace htdrdd::test {
 
 /// A definition with something everywhere. Its scales have no names, since those outlive it.
-inline constexpr std::string_view kFullDefinition =
-    "[Report]\nTemplateName=T\nNumQuestions=2\nNumVersions=2\nNumSubtests=1\nNumPages=2\nType=1\n"
-    "Description=D\nNotes=N\nCustomHeader=1\n\n[Subtest]\nSubtestName=Overall\nBenchmark=70\n\n"
-    "[Scale]\nNumValues=1\nGrades=A\nStartValues=0\n\n[SubtestScale]\nNumValues=1\nGrades=B\n"
-    "StartValues=0\n\n[ScaledScore]\nScaledScoreName=S\nScaledScoreValues=1\nScaledScoreDBTable=T\n"
-    "ScaledScorePrecision=1\n\n[SubtestScaledScore]\nScaledScoreName=S\nScaledScoreDBDSNBased=1\n\n"
-    "[Header]\n_HEADER_COLS=1\nOWN=1\n\n[Versions]\nQuestion=1\nAnswers=A\tB\nSequence=1\t2\n"
-    "Sequence=2\t1\n\n[Question]\nQuestionName=Q1\nSubtestNumber=1,2\n[Question]\nQuestionName=Q2\n\n";
+inline const std::string kFullDefinition = Definition("full_definition");
 
 template <class List, class Visit>
 void Each(const List& list, Visit visit) {

@@ -1,19 +1,28 @@
-/// Texts that cases are compared with.
+/// Texts that cases are made of or compared with.
 #pragma once
 
 #include <fstream>
+#include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace htdrdd::test {
 
-/// The lines of tests/words/NAME.txt, in which line ends of a text stand as \r\n.
+/// The definition in tests/words/NAME.txt.
+inline std::string Definition(const std::string& name) {
+    std::ifstream file(HTDRDD_SOURCE_DIR "/tests/words/" + name + ".txt");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// The lines of tests/words/NAME.txt, in which the line ends and tabs of a text stand as \r, \n and \t.
 inline std::vector<std::string> Words(const std::string& name) {
     std::ifstream file(HTDRDD_SOURCE_DIR "/tests/words/" + name + ".txt");
     std::vector<std::string> words;
     for (std::string line; std::getline(file, line); words.push_back(line))
-        for (std::size_t end = 0; (end = line.find("\\r\\n")) != std::string::npos;)
-            line.replace(end, 4, "\r\n");
+        for (const auto& [escape, unit] : {std::pair("\\r", "\r"), {"\\n", "\n"}, {"\\t", "\t"}})
+            for (std::size_t at = 0; (at = line.find(escape)) != std::string::npos;)
+                line.replace(at, 2, unit);
     return words;
 }
 

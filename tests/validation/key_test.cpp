@@ -10,29 +10,22 @@ class Keys : public Session {
 protected:
     /// Q1 and Q5 are graded and stand in all learning objectives, Q5 for extra credit; Q2 is graded with
     /// partial credit, Q3 subjective, Q4 an identifier.
-    void Renew() {
-        ASSERT_TRUE(Read(u"[Report]\nType=1\nNumQuestions=5\nNumSubtests=3\n\n"
-                         u"[Subtest]\nSubtestName=Overall\n\n[Subtest]\nSubtestName=Second\n\n"
-                         u"[Subtest]\nSubtestName=Third\n\n"
-                         u"[Question]\nQuestionName=Q1\nSubtestNumber=1\t2\t3\nIncludeGrade=-1\n"
-                         u"CorrectAnswer=A\n\n"
-                         u"[Question]\nQuestionName=Q2\nSubtestNumber=1\nIncludeGrade=-1\n"
-                         u"CorrectAnswer=(A,B)\n\n"
-                         u"[Question]\nQuestionName=Q3\nSubtestNumber=1\nSubjectiveField=-1\n\n"
-                         u"[Question]\nQuestionName=Q4\nSubtestNumber=1\nIDField=-1\n\n"
-                         u"[Question]\nQuestionName=Q5\nSubtestNumber=1\t2\t3\nIncludeGrade=-1\n"
-                         u"CorrectAnswer=B\nExtraCredit=-1\n\n"));
-        Q(2).PartialCredit = true;
-        Q(2).NumCorrect = 2;
-        Points(u"1,2");
-    }
+    void Renew() { ASSERT_TRUE(ReadBytes(Definition("key_definition"))); }
     clsHTDRDDQuestion& Q(std::int32_t l) { return *rdd->Questions->Item(l); }
     void Points(TextView points) { // of Q2
         Q(2).CorrectAnswerPoints->RemoveAll();
         Q(2).CorrectAnswerPoints->Add(points);
     }
-    void Exclude(std::initializer_list<std::int32_t> questions, std::int32_t objective) {
-        for (const std::int32_t l : questions) Q(l).Subtests->Item(objective)->Include = false;
+    void Exclude(std::int32_t l, std::int32_t objective) { Q(l).Subtests->Item(objective)->Include = false; }
+    void EmptySecond() {
+        Exclude(1, 2);
+        Exclude(5, 2);
+    }
+    /// The only question of the third objective besides Q5.
+    void PutQ4ForQ1(bool bExtraCredit) {
+        Exclude(1, 3);
+        Q(4).Subtests->SetInclude(3, true);
+        Q(4).ExtraCredit = bExtraCredit;
     }
     void Versions(std::int32_t question) {
         rdd->Versions->Question = question;
@@ -47,9 +40,8 @@ protected:
         const Said heard = Heard();
         EXPECT_EQ(heard.size(), valid ? 0U : 1U);
         std::string verdict = valid ? "" : heard[0];
-        if (question != -1) verdict += " Q" + std::to_string(question);
-        if (key != -1) verdict += " K" + std::to_string(key);
-        if (subtest != -1) verdict += " S" + std::to_string(subtest);
+        for (const auto& [letter, written] : {std::pair(" Q", question), {" K", key}, {" S", subtest}})
+            if (written != -1) verdict += letter + std::to_string(written);
         return verdict;
     }
 };
@@ -80,20 +72,9 @@ TEST_F(Keys, AreHeldToTheirRulesInOrder) {
          {[&] { Q(2).NumCorrect = 0; }, [&] { Q(4).PartialCredit = true; }},
          {[&] { Q(3).IDField = true; }, {}},
          {[&] { Q(3).PartialCredit = true; }, {}},
-         {[&] { Q(4).Subtests->SetInclude(1, false); }, {}},
-         {[&] {
-              Exclude({1, 5}, 2);
-          },
-          [&] { Exclude({5}, 2); }},
-         {[&] {
-              Exclude({1}, 3);
-              Q(4).Subtests->SetInclude(3, true);
-              Q(4).ExtraCredit = true;
-          },
-          [&] {
-              Exclude({1}, 3);
-              Q(4).Subtests->SetInclude(3, true);
-          }}},
+         {[&] { Exclude(4, 1); }, {}},
+         {[&] { EmptySecond(); }, [&] { Exclude(5, 2); }},
+         {[&] { PutQ4ForQ1(true); }, [&] { PutQ4ForQ1(false); }}},
         [&] { Renew(); }, [&] { return Judge(); });
 
     EXPECT_EQ(Judge(false), "(silent) " + Words("key").front());
@@ -119,12 +100,8 @@ TEST_F(Keys, CountOneForEachStandardVersion) {
 }
 
 TEST_F(Keys, MayHaveNothingButExtraCreditInAll) {
-    Renew();
-    for (std::int32_t l = 1; l <= 5; ++l) {
-        Q(l).ExtraCredit = true;
-        for (const std::int32_t objective : {3, 2}) Q(l).Subtests->Remove(objective);
-    }
-    for (const std::int32_t objective : {3, 2}) rdd->Subtests->Remove(objective);
+    ASSERT_TRUE(
+        Read(u"[Report]\nNumQuestions=1\n\n[Question]\nIncludeGrade=1\nExtraCredit=1\nCorrectAnswer=A\n"));
     EXPECT_EQ(Judge(), "");
 }
 
@@ -132,7 +109,7 @@ TEST_F(Keys, FailUnexpectedlyWhereSomethingIsNotThere) {
     Renew();
     Q(1).Subtests->Item(3, nullptr);
     EXPECT_EQ(Judge(), kNotSet + "clsHTDRDD.ValidateKey");
-    Exclude({1, 5}, 2);
+    EmptySecond();
     EXPECT_TRUE(Judge().ends_with(" S2")) << "the learning objective in front of it speaks first";
     rdd->Subtests->RemoveAll();
     for (std::int32_t l = 1; l <= 5; ++l) Q(l).Subtests->RemoveAll();

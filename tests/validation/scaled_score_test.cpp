@@ -27,25 +27,12 @@ public:
 
 class ScaledScores : public Session {
 protected:
-    ScaledScores() {
-        rdd->AddDefaultSubtest();
-        auto algebra = Make<clsHTDRDDSubtest>();
-        algebra->SubtestName = u"Algebra";
-        rdd->Subtests->Add(std::move(algebra));
-    }
     /// By percentile of two learning objectives, sound for the whole test.
     void Renew() {
-        score = Make<clsHTDRDDScaledScore>();
-        score->ScaledScoreValues = HTDScaledScoreValuesDBPercentile;
-        score->ScaledScoreCriteriaPrimary = HTDScaledScoreCriteriaLearningObjective;
-        score->LearningObjectivePrimary = u"Algebra";
-        score->ScaledScoreCriteriaSecondary = HTDScaledScoreCriteriaLearningObjective;
-        score->LearningObjectiveSecondary = u"Overall";
-        score->DB->DBType = 0;
+        ASSERT_TRUE(ReadBytes(Definition("scaled_score_definition")));
+        score = rdd->Subtests->Item(1)->ScaledScore->Copy();
         score->DB->Connect = u"x";
-        score->DB->ScoreField = u"Scaled";
-        score->DB->MinFieldPrimary = u"From";
-        score->DB->MaxFieldPrimary = u"To";
+        rdd->Subtests->Item(1)->ScaledScore = nullptr;
         forObjective = false;
     }
     void Criteria(std::int32_t primary, std::int32_t secondary = HTDScaledScoreCriteriaNone) {

@@ -1,3 +1,4 @@
+#include "platform/number.h"
 #include "support/session.h"
 
 namespace htdrdd::test {
@@ -5,25 +6,14 @@ namespace {
 
 class SubtestRule : public Session {
 protected:
-    /// Type of report, then the flags of a question: position of the objective that is written.
-    std::string Judge(HTDReportType type, TextView flags) {
-        rdd->Clear();
-        rdd->ReportType = type;
-        for (const TextView name : {u"Overall", u"Second"}) {
-            auto subtest = Make<clsHTDRDDSubtest>();
-            subtest->SubtestName = name;
-            rdd->Subtests->Add(std::move(subtest));
-        }
-        for (std::int32_t l = 1; l <= 2; ++l) {
-            auto question = Make<clsHTDRDDQuestion>();
-            const auto has = [&](char16_t flag) { return l == 1 || flags.find(flag) != TextView::npos; };
-            question->IncludeGrade = has(u'G');
-            question->IncludeTally = has(u'T');
-            question->SubjectiveField = has(u'S');
-            question->Subtests->Add(true);
-            question->Subtests->Add(l == 2);
-            rdd->Questions->Add(std::move(question));
-        }
+    /// The type of report and what else a second question has: the position of the objective that is written.
+    std::string Judge(int type, TextView flags) {
+        EXPECT_TRUE(Read(Text(u"[Report]\nNumQuestions=2\nNumSubtests=2\nType=")
+                             .append(DecimalText(type))
+                             .append(u"\n\n[Subtest]\nSubtestName=Overall\n\n[Subtest]\n\n[Question]\n"
+                                     u"SubtestNumber=1\nIncludeGrade=1\nIncludeTally=1\nSubjectiveField=1\n\n"
+                                     u"[Question]\nSubtestNumber=1\t2\n")
+                             .append(flags)));
         std::int32_t subtest = -1;
         const bool valid = rdd->ValidateSubtests(&subtest);
         return (valid ? "true " : "false ") + std::to_string(subtest);
@@ -31,15 +21,12 @@ protected:
 };
 
 TEST_F(SubtestRule, DependsOnTheTypeOfReport) {
-    const auto judge = [&](TextView flags) {
-        std::string verdicts;
-        for (const auto type : {HTDReportTypeGrade, HTDReportTypeSurvey, HTDReportTypeGenericGrade})
-            verdicts += Judge(type, flags) + "; ";
-        return verdicts;
+    const auto judge = [&](TextView flag) { // in a test, in a survey and in a generic key
+        return Judge(1, flag) + "; " + Judge(2, flag) + "; " + Judge(3, flag);
     };
-    EXPECT_EQ(judge(u"G"), "true -1; false 2; true -1; ");
-    EXPECT_EQ(judge(u"T"), "false 2; true -1; false 2; ");
-    EXPECT_EQ(judge(u"S"), "true -1; false 2; false 2; ");
+    EXPECT_EQ(judge(u"IncludeGrade=1"), "true -1; false 2; true -1");
+    EXPECT_EQ(judge(u"IncludeTally=1"), "false 2; true -1; false 2");
+    EXPECT_EQ(judge(u"SubjectiveField=1"), "true -1; false 2; false 2");
     rdd->Questions->RemoveAll();
     std::int32_t subtest = -1;
     EXPECT_FALSE(rdd->ValidateSubtests(&subtest));
@@ -49,7 +36,7 @@ TEST_F(SubtestRule, DependsOnTheTypeOfReport) {
 }
 
 TEST_F(SubtestRule, AsksForMembershipOnlyWhereAQuestionCounts) {
-    EXPECT_EQ(Judge(HTDReportTypeGrade, u"G"), "true -1");
+    EXPECT_EQ(Judge(1, u"IncludeGrade=1"), "true -1");
     const auto memberships = rdd->Questions->Item(1)->Subtests;
     memberships->Item(2, nullptr);
     EXPECT_FALSE(rdd->ValidateSubtests());

@@ -7,41 +7,16 @@ namespace {
 
 class VersionRules : public Session {
 protected:
-    /// Four graded questions with the choices A to C, and two identifiers.
-    void Renew() {
-        rdd->Clear();
-        for (const TextView name : {u"Q1", u"Q2", u"Q3", u"Q4"}) {
-            auto question = Make<clsHTDRDDQuestion>();
-            question->QuestionName = name;
-            question->IncludeGrade = true;
-            question->AnswerValues->AddDelimitedString(u"A\tB\tC");
-            rdd->Questions->Add(std::move(question));
-        }
-        Identifiers(u"A\tB");
-        type = HTDVersionTypeNone;
-    }
-    void RenewScrambled() {
-        Renew();
-        for (const TextView order : {u"1\t2\t3\t4", u"2\t1\t4\t3"}) {
-            auto sequence = Make<clsHTDRDDSequence>();
-            sequence->AddDelimitedString(order);
-            rdd->Versions->Sequences->Add(std::move(sequence));
-        }
-        type = HTDVersionTypeSequence;
-    }
+    /// Four graded questions with the choices A to C, and two identifiers, for two sequences.
+    void RenewScrambled() { Renew("scrambled_definition", HTDVersionTypeSequence); }
     /// Q3 and Q4 are subjective here, Q1 has a multiple answer.
-    void RenewStandard() {
-        Renew();
-        rdd->AddDefaultSubtest();
-        for (std::int32_t l = 1; l <= 4; ++l) {
-            Q(l).IncludeGrade = l < 3;
-            Q(l).SubjectiveField = l > 2;
-            Answers(l, l == 1 ? u"A\t(B,C)" : l == 2 ? u"C\tB" : u"5\t5");
-            Q(l).CorrectPoints = .3;
-        }
-        type = HTDVersionTypeKey;
+    void RenewStandard() { Renew("standard_definition", HTDVersionTypeKey); }
+    void Renew(const std::string& definition, HTDVersionType ofVersions) {
+        ASSERT_TRUE(ReadBytes(Definition(definition)));
+        type = ofVersions;
     }
     clsHTDRDDQuestion& Q(std::int32_t l) { return *rdd->Questions->Item(l); }
+    clsHTDRDDSequence& Sequence(std::int32_t l) { return *rdd->Versions->Sequences->Item(l); }
     static void Fill(clsHTDRDDStrings& list, TextView items) {
         list.RemoveAll();
         EachPiece(items, u"\t", [&](TextView item) { list.Add(item); });
@@ -68,10 +43,10 @@ TEST_F(VersionRules, HoldForScrambledOnesInOrder) {
          {[&] { Q(1).IncludeGrade = Q(2).IncludeGrade = Q(3).IncludeGrade = false; },
           [&] { Q(1).IncludeGrade = Q(2).IncludeGrade = false; }},
          {[&] { Choices(3, u"A\tb\tC"); }, [&] { Choices(3, u"C\tA\tB"); }},
-         {[&] { rdd->Versions->Sequences->Item(2)->Add(4); },
+         {[&] { Sequence(2).Add(4); },
           [&] {
-              rdd->Versions->Sequences->Item(1)->Item(4, 3); // only those behind the first are looked at
-              rdd->Versions->Sequences->Item(2)->Item(4, 4);
+              Sequence(1).Item(4, 3); // only those behind the first are looked at
+              Sequence(2).Item(4, 4);
               Choices(3, u"x");
           }}},
         [&] { RenewScrambled(); }, [&] { return Judge(); });
@@ -105,10 +80,10 @@ TEST_F(VersionRules, LookAtChoicesBehindThePositionThatTheIdentifiersReach) {
     Choices(4, u"");
     EXPECT_EQ(Judge(), "") << "the only graded question behind is none";
 
-    rdd->Versions->Sequences->Item(1)->Remove(4);
+    Sequence(1).Remove(4);
     EXPECT_TRUE(Judge().ends_with("Version: 1 @ clsHTDRDD.ValidateVersions V1"));
     Identifiers(u"A");
-    rdd->Versions->Sequences->Item(2)->RemoveAll();
+    Sequence(2).RemoveAll();
     EXPECT_EQ(Judge(), kNotSet + "clsHTDRDD.ValidateVersions") << "too short a sequence";
 
     type = HTDVersionTypeKey;
