@@ -182,10 +182,10 @@ TEST_F(ArchivedDefinition, IsReadIfItHoldsOneText) {
     // What doesn't open counts as plain text, and that is refused by its first line, in silence.
     EXPECT_FALSE(ReadPacked({Unicode(kSmall)}, u"another"));
     EXPECT_EQ(rdd->NumPages, 0);
-    const int operations = std::exchange(files.operations, 0);
+    files.operations = 0;
     EXPECT_FALSE(ReadPacked({""}));
     EXPECT_EQ(Heard(), Said{"76 Path not found @ basTemplate.VB_RT_read_template"});
-    EXPECT_GT(files.operations, operations) << "this is meant: ten tries";
+    EXPECT_GT(files.operations, 10 * 7) << "this is meant: ten tries";
     EXPECT_TRUE(Temporaries().empty());
 }
 
