@@ -26,7 +26,7 @@ public:
     /// Whether any file was refused.
     [[nodiscard]] bool AnyRefused() const noexcept { return anyRefused_; }
     /// The host object.
-    [[nodiscard]] Complaints& Heard() const noexcept { return *complaints_; }
+    [[nodiscard]] Complaints& Heard() const { return *complaints_; }
 
 private:
     void Refuse(TextView path, const char* otherwise);
