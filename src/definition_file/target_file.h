@@ -15,8 +15,8 @@ public:
 
     [[nodiscard]] const Text& Path() const noexcept { return path_; }
     /// Makes way: deletes an old file where its text is Unicode, which for an archive takes the password; one
-    /// of single bytes is moved to its name with ".old" behind it. It stays only where there is such a file
-    /// already.
+    /// of single bytes is moved to its name with ".old" behind it. That one stays where there is such a file
+    /// already, and where it can't be deleted.
     void MakeWay(TextView sPassword, Where at = Where::current()) const;
     /// Puts a temporary file in the place, with the rights of the old one, if it is there, and deletes it.
     /// After a failure there is no part of a file.
