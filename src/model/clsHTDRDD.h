@@ -128,6 +128,27 @@ public:
     /// line isn't [Header], and false after a failure, such as a file that isn't there, which is reported.
     bool LoadHeader(TextView sHeaderFile) noexcept;
 
+    /// Replaces the answer key by a text key, a single-byte file of correct answers without anything else:
+    /// one key, or a line for each standard test version. What the fields mean stands in docs/text-key.md.
+    /// The questions stay with their response choices; learning objectives, versions and correct answers are
+    /// made anew. True where the key can be graded with afterwards; it is judged as ValidateKey does, and
+    /// with several versions as ValidateVersions does. False without a file and for one that holds no field,
+    /// in silence; after a complaint, which bVerbose false keeps from the user; and after a failure, such as
+    /// an empty file, which is reported. Nothing changes before the number of fields fits the questions.
+    /// Afterwards nothing is taken back: keep a Copy to go back to.
+    bool MergeTextKey(TextView sKeyFile, bool bVerbose = true) noexcept;
+
+    /// Lays a generic key over this definition: its graded questions over the graded ones here, one after the
+    /// other, and its subjective ones over the subjective ones. Questions here that are left over are turned
+    /// off, from the end on. Names and response choices stay; nearly all else comes from the generic key, and
+    /// the two share the learning objectives afterwards: this is meant.
+    /// True where the merge ran to its end; the key isn't judged. False, in silence, for an empty reference
+    /// and another type of report; after a complaint, which bVerbose false keeps from the user; and after a
+    /// failure, which is reported.
+    /// With too many graded questions nothing changes. Afterwards nothing is taken back: keep a Copy to go
+    /// back to.
+    bool MergeGenericKey(const Ref<clsHTDRDD>& oGenericRDD, bool bVerbose = true) noexcept;
+
     /// Whether the scaled score of the learning objective at a position can be used, or with -1 that of any.
     /// False in silence where there is none. False after a failure, which is reported.
     bool ScaledScoreIsValid(std::int32_t lSubtestIndex = -1) noexcept;

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -49,18 +50,32 @@ char16_t FoldBeyondAscii(char16_t unit) noexcept;
 /// Every occurrence of `what`, by exact comparison, replaced. An empty `what` changes nothing.
 [[nodiscard]] Text Replaced(TextView text, TextView what, TextView with);
 
-/// Calls `piece(TextView)` for each piece between delimiters, in order. An empty text has no pieces, and an
-/// empty delimiter makes one piece of the whole text.
+/// The pieces between delimiters, one at a time. An empty text has no pieces, and an empty delimiter makes
+/// one piece of the whole text.
+class Pieces {
+public:
+    Pieces(TextView text, TextView delimiter) : rest_(text), delimiter_(delimiter), any_(!text.empty()) {}
+    /// The next piece, or nothing at the end.
+    [[nodiscard]] std::optional<TextView> Next() noexcept {
+        if (!any_) return {};
+        const std::size_t end = delimiter_.empty() ? TextView::npos : rest_.find(delimiter_);
+        const TextView piece = rest_.substr(0, end);
+        any_ = end != TextView::npos;
+        if (any_) rest_.remove_prefix(end + delimiter_.size());
+        return piece;
+    }
+
+private:
+    TextView rest_;
+    TextView delimiter_;
+    bool any_;
+};
+
+/// Calls `piece(TextView)` for each of the pieces, in order.
 template <class Piece>
 void EachPiece(TextView text, TextView delimiter, Piece piece) {
-    if (text.empty()) return;
-    while (!delimiter.empty()) {
-        const std::size_t end = text.find(delimiter);
-        if (end == TextView::npos) break;
-        piece(text.substr(0, end));
-        text.remove_prefix(end + delimiter.size());
-    }
-    piece(text);
+    Pieces pieces(text, delimiter);
+    while (const auto next = pieces.Next()) piece(*next);
 }
 
 /// The pieces as an array from 0. That of an empty text has no elements, but its bounds can be asked.

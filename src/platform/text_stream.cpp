@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstring>
+#include <utility>
 
 namespace htdrdd {
 namespace {
@@ -60,6 +61,11 @@ TextView TextReader::ReadLine(Where at) {
     rest_.remove_prefix(feed == TextView::npos ? rest_.size() : feed + 1);
     if (feed != TextView::npos && line.ends_with(u'\r')) line.remove_suffix(1);
     return line;
+}
+
+TextView TextReader::ReadAll(Where at) {
+    if (rest_.empty()) throw Failure(Err::PastEnd, at);
+    return std::exchange(rest_, {});
 }
 
 TextWriter::TextWriter(FileSystem& files, TextView path, Where at) : file_(files.Create(path, at)) {

@@ -28,6 +28,8 @@ public:
     /// The next line without its end, a line feed with at most one carriage return in front; a carriage
     /// return alone is content. Fails with 62 at the end.
     [[nodiscard]] TextView ReadLine(Where at = Where::current());
+    /// All that is left. Fails with 62 at the end.
+    [[nodiscard]] TextView ReadAll(Where at = Where::current());
 
 private:
     Bytes bytes_;

@@ -96,18 +96,20 @@ constexpr std::array<Rule, KeyRuleCount> kKeyRules{{
 static_assert(!kKeyRules.back().message.empty());
 
 /// How many of the first `lNumber` pieces between commas there are, and whether one of these is empty.
-struct Pieces {
+struct PartialPoints {
     std::int32_t lFound = 0;
     bool anyEmpty = false;
 };
-Pieces PointsOf(TextView text, std::int32_t lNumber) {
-    Pieces pieces;
-    EachPiece(text, u",", [&](TextView piece) {
-        if (pieces.lFound >= lNumber) return;
-        ++pieces.lFound;
-        if (piece.empty()) pieces.anyEmpty = true;
-    });
-    return pieces;
+PartialPoints PointsOf(TextView text, std::int32_t lNumber) {
+    PartialPoints points;
+    Pieces pieces(text, u",");
+    while (points.lFound < lNumber) {
+        const auto piece = pieces.Next();
+        if (!piece) break;
+        ++points.lFound;
+        if (piece->empty()) points.anyEmpty = true;
+    }
+    return points;
 }
 
 /// How many questions are in a learning objective, and whether that can be told of all of them.
@@ -167,7 +169,7 @@ void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
                 if (question->CorrectAnswers->Item(key).empty() && flagged(NoCorrectAnswer, key)) return;
                 if (!question->PartialCredit) continue;
                 const Text& points = question->CorrectAnswerPoints->Item(key);
-                const Pieces pieces = PointsOf(points, question->NumCorrect);
+                const PartialPoints pieces = PointsOf(points, question->NumCorrect);
                 if (points.empty()) {
                     if (flagged(NoPartialPoints, key)) return;
                 } else if (pieces.lFound < question->NumCorrect) {

@@ -26,8 +26,8 @@ inline const std::string kKeyInUse =
     "457 This key is already associated with an element of this collection @ ";
 
 /// Keeps what it was told, one line each: "13 Type mismatch @ clsHTDRDD.Read" for a failure, without the line
-/// of source, "Caption: text @ clsHTDRDD.ValidateKey" for a broken rule, and "Invalid File: text [152 &OK]"
-/// for a message.
+/// of source, "Caption: text @ clsHTDRDD.ValidateKey" for a rule that a definition or a key to be merged
+/// breaks, and "Invalid File: text [152 &OK]" for a message.
 class RecordingHost final : public ErrorHost {
 public:
     Said said;
@@ -37,8 +37,11 @@ public:
         if (whenHeard) whenHeard();
         const std::string location = ToUtf8(complaint.sLocation);
         const std::size_t line = location.find("; Line: ");
-        const bool rule = complaint.vError.IsMissing();
+        const bool rule = !complaint.sTitle.empty();
+        const bool import = complaint.sTitle == u"Key Import Error";
         EXPECT_EQ(complaint.lKind, rule ? 2 : 0);
+        EXPECT_EQ(complaint.vError.IsMissing(), rule && !import);
+        EXPECT_EQ(import, rule && !complaint.vError.IsMissing() && complaint.vError.ToInteger32() == 9999);
         EXPECT_TRUE(!rule || line != std::string::npos);
         said.push_back((Silent() ? "(silent) " : "") +
                        (rule ? ToUtf8(complaint.sTitle) + ":" : ToUtf8(complaint.vError.ToText())) + " " +

@@ -1,0 +1,90 @@
+#include "foundation/basError.h"
+#include "merge/text_key_fields.h"
+#include "merge/text_key_versions.h"
+#include "model/basPublicAnswers.h"
+#include "platform/text_stream.h"
+
+#include <optional>
+
+namespace htdrdd {
+namespace {
+
+constexpr TextView kLocation = u"HTDRdd91 - clsHTDRDD.MergeTextKey";
+
+/// Whether a line end stands in the text and not only at its end.
+bool HoldsLines(TextView text) {
+    const std::size_t end = text.find(kLineEnd);
+    return end != TextView::npos && end + kLineEnd.size() < text.size();
+}
+
+bool HoldsTabs(TextView text) { return text.find(u'\t') != TextView::npos; }
+
+/// What stands between the fields of a key of one version; empty where nothing does.
+TextView SeparatorOf(TextView text) {
+    if (HoldsTabs(text)) return u"\t";
+    if (HoldsLines(text)) return kLineEnd;
+    for (const TextView separator : {TextView(u"\r"), TextView(u"\n")})
+        if (text.find(separator) != TextView::npos) return separator;
+    return {};
+}
+
+/// The correct answer that a field gives to a question that takes numbers. Empty where a number is that of no
+/// choice.
+std::optional<Text> NumberedAnswers(clsHTDRDDQuestion& question, TextView part) {
+    const Text numbers(WithoutParentheses(part));
+    question.CorrectAnd = numbers.find(u'&') != Text::npos;
+    if (numbers.find(u'+') != Text::npos) question.ExtraCredit = true;
+    return AnswersByNumber(question, Replaced(Replaced(numbers, u"&", u","), u"+", u""), ChoiceOrder::Sorted);
+}
+
+/// Gives the fields of a key of one version to the questions. False after a complaint.
+bool MergeFields(clsHTDRDD& rdd, TextView text, const ImportComplaint& fails) {
+    const TextView separator = SeparatorOf(text);
+    if (separator.empty()) return fails(u"The format of the text key file is invalid.");
+    text = WithoutTrailing(WithoutTrailing(text, separator), kLineEnd);
+    if (text.empty()) return false;
+    const std::int64_t surplus = NumKeyQuestions(*rdd.Questions) - NumPieces(text, separator);
+    if (surplus < 0) return fails(kTooManyFields);
+
+    TurnOffLast(*rdd.Questions, surplus, TurnOff);
+    StartKeyAnew(rdd, [](clsHTDRDDQuestion&) {});
+    rdd.Versions->Question = 0;
+    RemoveVersions(rdd);
+
+    KeyQuestions questions(rdd);
+    Pieces fields(text, separator);
+    while (const auto field = fields.Next()) {
+        const std::int32_t position = questions.Next();
+        if (position == 0) break;
+        const auto question = rdd.Questions->Item(position);
+        const TextKeyField parts(*field);
+        if (parts.isEmpty) {
+            TurnOff(*question);
+            continue;
+        }
+        question->QuestionText = parts.questionText;
+        const auto answer =
+            TakesNumbers(*question) ? NumberedAnswers(*question, parts.answer) : Text(parts.answer);
+        if (!answer) return fails(NoSuchAnswers(position, parts.answer));
+        basPublic::AssignCorrectAnswer(*question, *answer, 1, {});
+    }
+    return rdd.ValidateKey(fails.IsVerbose());
+}
+
+} // namespace
+
+bool clsHTDRDD::MergeTextKey(TextView sKeyFile, bool bVerbose) noexcept {
+    bool result = false;
+    try {
+        const Ref<clsHTDRDD> self(this); // a report may make the host release it
+        FileSystem& files = CurrentFileSystem();
+        if (!files.FileExists(sKeyFile)) return false;
+        TextReader stream(files, sKeyFile, Encoding::CodePage);
+        const TextView text = stream.ReadAll();
+        result = HoldsLines(text) && HoldsTabs(text) ? MergeTextKeyVersions(*this, text, bVerbose)
+                                                     : MergeFields(*this, text, {kLocation, bVerbose});
+    } catch (...) { ReportFailure(kLocation); }
+    return result;
+}
+
+} // namespace htdrdd

@@ -1,0 +1,66 @@
+#include "merge/text_key_fields.h"
+
+#include <algorithm>
+
+namespace htdrdd {
+
+Text NoSuchAnswers(std::int32_t lPosition, TextView sAnswers) {
+    return WithAnswers(
+        u"The text key contains one or more correct answers that do not exist in the active key.",
+        u"Text key question index: ", lPosition, sAnswers);
+}
+
+TextKeyField::TextKeyField(TextView field) : isEmpty(field.empty()) {
+    const std::size_t bar = field.find(u'|');
+    answer = field.substr(0, bar);
+    if (bar != TextView::npos) questionText = field.substr(bar + 1);
+}
+
+TextView WithoutTrailing(TextView text, TextView what) noexcept {
+    while (text.ends_with(what)) text.remove_suffix(what.size());
+    return text;
+}
+
+std::int64_t NumPieces(TextView text, TextView separator) noexcept {
+    std::int64_t number = 0;
+    for (Pieces pieces(text, separator); pieces.Next();) ++number;
+    return number;
+}
+
+std::int64_t NumKeyQuestions(const clsHTDRDDQuestions& questions) {
+    return std::int64_t{questions.NumGraded()} + questions.NumSubjective();
+}
+
+bool TakesNumbers(const clsHTDRDDQuestion& question) {
+    return question.AnswerValues->Count() > 0 && question.IncludeGrade;
+}
+
+bool TurnOff(clsHTDRDDQuestion& question) noexcept {
+    const bool wasOn = question.IncludeGrade || question.SubjectiveField;
+    question.IncludeGrade = false;
+    question.SubjectiveField = false;
+    return wasOn;
+}
+
+KeyQuestions::KeyQuestions(const clsHTDRDD& rdd)
+    : rdd_(rdd), lSubjective_(rdd.Questions->NextSubjective(0)), lGraded_(rdd.Questions->NextGraded(0)) {}
+
+std::int32_t KeyQuestions::Next() {
+    const clsHTDRDDQuestions& questions = *rdd_.Questions;
+    // Asking anew for both kinds at each step would look through all the rest where one of them is missing. A
+    // position that hasn't been reached stays the next one, unless that question was turned off: it may be
+    // one that stands at an earlier position, too.
+    const auto bring = [&](std::int32_t& next, bool clsHTDRDDQuestion::*isOfKind, auto nextOfKind) {
+        if (next == 0) return;
+        const auto question = questions.Item(next);
+        if (next > lPosition_ && question && (*question).*isOfKind) return;
+        next = (questions.*nextOfKind)(std::max(next, lPosition_));
+    };
+    bring(lSubjective_, &clsHTDRDDQuestion::SubjectiveField, &clsHTDRDDQuestions::NextSubjective);
+    bring(lGraded_, &clsHTDRDDQuestion::IncludeGrade, &clsHTDRDDQuestions::NextGraded);
+    const bool isSubjective = lSubjective_ > 0 && (lSubjective_ < lGraded_ || lGraded_ == 0);
+    lPosition_ = isSubjective ? lSubjective_ : lGraded_;
+    return lPosition_;
+}
+
+} // namespace htdrdd
