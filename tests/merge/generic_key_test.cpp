@@ -1,0 +1,88 @@
+#include "merge/key_of.h"
+#include "support/cases.h"
+#include "support/session.h"
+
+namespace htdrdd::test {
+namespace {
+
+class GenericKeys : public Session {
+protected:
+    /// A definition whose text is edited first, from "what=>with".
+    Ref<clsHTDRDD> Made(TextView path, Text text, const Fields& edits) {
+        for (const Text& edit : edits) {
+            const Fields parts = Split(edit, u"=>").Items();
+            EXPECT_NE(text.find(parts[0]), Text::npos) << ToUtf8(edit);
+            text = Replaced(text, parts[0], parts[1]);
+        }
+        files.files[Text(path)] = Unicode(text);
+        auto made = Make<clsHTDRDD>();
+        EXPECT_TRUE(made->Read(path)) << ::testing::PrintToString(Heard());
+        return made;
+    }
+    /// Merges: whether that succeeds, the key that is left, and what was said.
+    Text Merged(const Ref<clsHTDRDD>& generic, bool bVerbose = true) {
+        const Text before = Told(*rdd);
+        Text told = rdd->MergeGenericKey(generic, bVerbose) ? u"true " : u"false ";
+        told += Told(*rdd) == before ? u"unchanged" : KeyOf(*rdd);
+        for (const std::string& line : Heard()) told.append(u" ! ").append(FromUtf8(line));
+        return told;
+    }
+
+    const Text active_ = FromUtf8(Definition("merge_definition"));
+    const Text generic_ = FromUtf8(Definition("merge_generic"));
+};
+
+TEST_F(GenericKeys, AreLaidOverQuestionsOfTheSameKind) {
+    CheckWords("generic_key", [&](const Fields& fields) {
+        Fields edits[2]; // of the definition and of the key
+        for (std::size_t i = 0; i + 1 < fields.size(); ++i)
+            if (!fields[i].empty()) edits[fields[i].starts_with(u"G ")].push_back(fields[i].substr(2));
+        rdd = Made(u"/exam.rdd", active_, edits[0]);
+        return Merged(Made(u"/generic.rdd", generic_, edits[1]));
+    });
+}
+
+TEST_F(GenericKeys, BringAllButTheForm) {
+    rdd = Made(u"/exam.rdd", active_, {});
+    const auto generic = Made(u"/generic.rdd", generic_, {});
+    EXPECT_TRUE(generic->Save(u"/saved.rdd") && generic->Read(u"/saved.rdd"));
+    EXPECT_TRUE(rdd->MergeGenericKey(generic));
+    EXPECT_EQ(rdd->GradeScale->ScaleName + rdd->GradeScale->AsString(true), u"Pass60\t0");
+    EXPECT_EQ(rdd->SubtestGradeScale->ScaleName + rdd->SubtestGradeScale->AsString(), u"OwnA");
+    EXPECT_EQ(Told(*rdd->ScaledScore), Told(*generic->ScaledScore));
+    EXPECT_NE(rdd->ScaledScore, generic->ScaledScore);
+    EXPECT_TRUE(rdd->CustomHeader);
+    EXPECT_EQ(rdd->Header->Item(u"OWN").ToText(), u"1");
+    EXPECT_EQ(rdd->Subtests->Item(2), generic->Subtests->Item(3)); // shared
+    EXPECT_EQ(rdd->Versions->Sequences->Item(1)->AsString(), u"1\t2\t3\t4\t5\t6\t7");
+    const auto question = rdd->Questions->Item(2);
+    EXPECT_EQ(question->QuestionName, u"Q1");
+    EXPECT_EQ(question->CorrectCodes->Item(1), u"(2,1)");
+    EXPECT_EQ(question->CorrectAnswerPoints->Item(1), u"1,1");
+    EXPECT_EQ(rdd->Questions->Item(3)->CorrectAnswerPoints->Item(1), u"");
+    EXPECT_EQ(question->CorrectPoints, 2);
+
+    const Text merged = KeyOf(*rdd);
+    EXPECT_TRUE(rdd->Save(u"/merged.rdd") && rdd->Read(u"/merged.rdd"));
+    EXPECT_EQ(KeyOf(*rdd), merged);
+    EXPECT_TRUE(rdd->ValidateKey());
+}
+
+TEST_F(GenericKeys, OfAnotherKindAreRefusedInSilence) {
+    rdd = Made(u"/exam.rdd", active_, {});
+    EXPECT_EQ(Merged({}), u"false unchanged");
+    EXPECT_EQ(Merged(rdd), u"false unchanged");
+}
+
+/// The steps run on one object: what is emptied first is empty when it is taken over.
+TEST_F(GenericKeys, OfTheDefinitionItselfEmptyIt) {
+    rdd = Made(u"/generic.rdd", generic_, {});
+    const Text merged = Merged(rdd);
+    EXPECT_TRUE(merged.starts_with(u"true | 0:  | - 'Not graded' | gm 'First' | s 'Essay' | gx 'Second' | g "
+                                   u"'Third' | - 'Not graded either' ! 9 "))
+        << ToUtf8(merged);
+    EXPECT_EQ(rdd->Header->Count(), 0);
+}
+
+} // namespace
+} // namespace htdrdd::test

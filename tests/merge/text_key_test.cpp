@@ -1,0 +1,110 @@
+#include "merge/key_of.h"
+#include "merge/text_key_fields.h"
+#include "support/cases.h"
+#include "support/session.h"
+
+#include <random>
+
+namespace htdrdd::test {
+namespace {
+
+class TextKeys : public Session {
+protected:
+    TextKeys() { ReadAnew(); }
+    void ReadAnew() { EXPECT_TRUE(Read(FromUtf8(definition_))); }
+
+    /// Merges a key: whether that succeeds, the key that is left, and what was said.
+    Text Merged(TextView key, bool bVerbose = true) {
+        files.files[u"/exam.key"] = ToCodePage(key);
+        const Text before = Told(*rdd);
+        Text told = rdd->MergeTextKey(u"/exam.key", bVerbose) ? u"true " : u"false ";
+        told += Told(*rdd) == before ? u"unchanged" : KeyOf(*rdd);
+        for (const std::string& line : Heard()) told.append(u" ! ").append(FromUtf8(line));
+        return told;
+    }
+    /// The same for the definition as it was read.
+    Text MergedAnew(TextView key) {
+        ReadAnew();
+        return Merged(key);
+    }
+
+private:
+    const std::string definition_ = Definition("merge_definition");
+};
+
+TEST_F(TextKeys, OfOneVersionReplaceTheKey) {
+    CheckWords("text_key", [&](const Fields& fields) { return MergedAnew(fields[0]); });
+}
+
+TEST_F(TextKeys, OfSeveralVersionsMakeStandardVersions) {
+    CheckWords("text_key_versions", [&](const Fields& fields) { return MergedAnew(fields[0]); });
+}
+
+TEST_F(TextKeys, ThatCannotBeReadChangeNothing) {
+    const Text before = Told(*rdd);
+    EXPECT_FALSE(rdd->MergeTextKey(u"/missing.key"));
+    EXPECT_EQ(Merged(u""), u"false unchanged ! 62 Input past end of file @ clsHTDRDD.MergeTextKey");
+    files.failingOperation = files.operations + 1;
+    EXPECT_EQ(Merged(u"1\t1"), u"false unchanged ! 70 Permission denied @ clsHTDRDD.MergeTextKey");
+}
+
+TEST_F(TextKeys, AreReplacedByTheNext) {
+    const Text several = u"A\t3\t1\t4\tyes\t2\r\nB\t1\t2\t4\tno\t3";
+    EXPECT_TRUE(Merged(several).starts_with(u"true"));
+    EXPECT_TRUE(rdd->Save(u"/merged.rdd"));
+    const Text saved = KeyOf(*rdd);
+    EXPECT_TRUE(rdd->Read(u"/merged.rdd"));
+    EXPECT_EQ(KeyOf(*rdd), saved);
+
+    EXPECT_EQ(Merged(u"1\t\t4\tyes"),
+              u"true Overall 70 | 0:  | -1 | g1 A | -1 | s1 4 | g1 yes | -x1 | -1"); // a question less
+    const Text left = u"true Overall 70 | 0:  | -1 | g1 B | -1 | s1 4 | -1 | -x1 | -1";
+    EXPECT_EQ(Merged(u"2\t4", false), left); // what was turned off stays so
+    EXPECT_EQ(Merged(u"5\t4", false).substr(0, 40), u"false Overall 70 | 0:  | -1 | g1 | -1 | ");
+    const Text refused = u"false unchanged ! (silent) Key Import Error: The text key file attempts to define "
+                         u"multiple test versions; however, no test version identifier has been setup. @ "
+                         u"clsHTDRDD.MergeTextKeyVersions";
+    EXPECT_EQ(Merged(several, false), refused);
+    rdd->Versions->Question = 8;
+    EXPECT_EQ(Merged(several, false), refused);
+
+    rdd->Subtests->RemoveAll(); // without a benchmark to remember it is 0
+    EXPECT_EQ(Merged(u"2\t4"), u"true Overall 0 | 0:  | -1 | g1 B | -1 | s1 4 | -1 | -x1 | -1");
+}
+
+TEST_F(TextKeys, OfEmptyLinesTakeNoMemory) {
+    rdd->Questions->Item(1)->IncludeGrade = true;
+    Text key = u"A\t1\t1\t1\t1\t1\t1\r\n";
+    for (int line = 0; line < 3'000'000; ++line) key += u"\r\n";
+    EXPECT_TRUE(Merged(key + u"B\t1\t1\t1\t1\t1\t1")
+                    .ends_with(u" ! 7 Out of memory @ clsHTDRDD.MergeTextKeyVersions"));
+}
+
+/// The walk keeps positions; asking anew for both kinds at each step must give the same.
+TEST_F(TextKeys, FindTheQuestionsThatAskingAnewFinds) {
+    std::minstd_rand random(7);
+    const auto oneIn = [&](unsigned n) { return random() % n == 0; };
+    for (int round = 0; round < 2000; ++round) {
+        rdd->Questions->RemoveAll();
+        const bool fewSubjective = oneIn(2);
+        for (auto count = random() % 12; count > 0; --count) {
+            const bool again = rdd->Questions->Count() > 0 && oneIn(4); // one object in several places
+            const auto question = again ? rdd->Questions->Item(1) : Make<clsHTDRDDQuestion>();
+            question->IncludeGrade = !oneIn(3);
+            question->SubjectiveField = oneIn(fewSubjective ? 20 : 3);
+            rdd->Questions->Add(question);
+        }
+        KeyQuestions walk(*rdd);
+        std::int32_t position = 0;
+        do {
+            const std::int32_t subjective = rdd->Questions->NextSubjective(position);
+            const std::int32_t graded = rdd->Questions->NextGraded(position);
+            position = subjective > 0 && (subjective < graded || graded == 0) ? subjective : graded;
+            ASSERT_EQ(walk.Next(), position);
+            if (position > 0 && oneIn(3)) TurnOff(*rdd->Questions->Item(position));
+        } while (position > 0);
+    }
+}
+
+} // namespace
+} // namespace htdrdd::test
