@@ -29,6 +29,15 @@ bool clsHTDRDDStrings::Add(TextView Item, std::optional<TextView> Key) noexcept 
     return result;
 }
 
+bool clsHTDRDDStrings::Lengthen(std::int32_t lCount) noexcept {
+    bool result = false;
+    try {
+        mItems.Lengthen(lCount);
+        result = true;
+    } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.Add"); }
+    return result;
+}
+
 bool clsHTDRDDStrings::AddArray(const Array<Text>& Value) noexcept {
     bool result = false;
     try {
@@ -81,7 +90,7 @@ const Text& clsHTDRDDStrings::Item(const Index& Index) const noexcept {
 
 void clsHTDRDDStrings::Item(const Index& Index, TextView sNew) noexcept {
     try {
-        if (Exists(Index)) mItems.Replace(Index, Text(Cut(sNew)));
+        if (Exists(Index)) mItems.Replace(Index, Cut(sNew));
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.Item"); }
 }
 

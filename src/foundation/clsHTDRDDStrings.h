@@ -26,6 +26,9 @@ public:
     /// key that is in use is a failure.
     bool Add(TextView Item, std::optional<TextView> Key = {}) noexcept;
 
+    /// Adds empty items at the end until there are that many. False only after a failure.
+    bool Lengthen(std::int32_t lCount) noexcept;
+
     /// Adds each element under its own full text as its key, or without a key where that one is in use. False
     /// if any element couldn't be added; the others are. An array without storage is a failure.
     bool AddArray(const Array<Text>& Value) noexcept;

@@ -107,13 +107,12 @@ bool MergeQuestions(clsHTDRDD& rdd, const clsHTDRDD& generic, const QuestionKind
         const auto source = generic.Questions->Item(lGeneric);
         TakeOver(*question, *source);
         if (source->CorrectAnswers->Count() > 0) {
-            Text answer = source->CorrectAnswers->Item(1);
-            if (kind.takesNumbers && question->AnswerValues->Count() > 0) {
-                auto texts = AnswersByNumber(*question, WithoutParentheses(answer), ChoiceOrder::AsWritten);
-                if (!texts)
-                    return fails(WithAnswers(kNoSuchAnswer, u"Generic question index: ", lGeneric, answer));
-                answer = *std::move(texts);
-            }
+            const Text& stored = source->CorrectAnswers->Item(1);
+            Text answer;
+            if (!kind.takesNumbers || question->AnswerValues->Count() == 0)
+                answer = stored;
+            else if (!AnswersByNumber(answer, *question, WithoutParentheses(stored), ChoiceOrder::AsWritten))
+                return fails(WithAnswers(kNoSuchAnswer, u"Generic question index: ", lGeneric, stored));
             const bool hasPoints = source->PartialCredit && source->CorrectAnswerPoints->Exists(1);
             basPublic::AssignCorrectAnswer(*question, answer, 1,
                                            hasPoints ? source->CorrectAnswerPoints->Item(1) : TextView());

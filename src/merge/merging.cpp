@@ -47,29 +47,27 @@ TextView WithoutParentheses(TextView text) noexcept {
     return text.starts_with(u'(') && text.ends_with(u')') ? text.substr(1, text.size() - 2) : text;
 }
 
-std::optional<Text> AnswersByNumber(const clsHTDRDDQuestion& question, TextView sNumbers, ChoiceOrder order) {
-    const clsHTDRDDStrings& choices = *question.AnswerValues;
-    Text answers;
-    bool all = true;
+bool AnswersByNumber(Text& sAnswers, const clsHTDRDDQuestion& question, TextView sNumbers,
+                     ChoiceOrder order) {
+    const auto choices = question.AnswerValues;
     const auto append = [&](TextView number) {
         const double choice = std::nearbyint(LeadingNumber(number));
-        if (choice >= 1 && choice <= choices.Count())
-            answers.append(choices.Item(static_cast<std::int32_t>(choice))).append(u",");
-        else
-            all = false;
+        if (!(choice >= 1 && choice <= choices->Count())) return false;
+        sAnswers += choices->Item(static_cast<std::int32_t>(choice));
+        return true;
     };
-    const bool several = sNumbers.find(u',') != TextView::npos;
-    if (several && order == ChoiceOrder::Sorted) {
-        Array<Text> numbers = Split(sNumbers, u",");
+    sAnswers.clear();
+    if (sNumbers.empty()) return true;
+    if (sNumbers.find(u',') == TextView::npos) return append(sNumbers);
+    Array<Text> numbers = Split(sNumbers, u",");
+    if (order == ChoiceOrder::Sorted)
         basPublic::QuickSortNumericStringArray(numbers, 0, numbers.UpperBound(), false);
-        for (const Text& number : numbers.Items()) append(number);
-    } else {
-        EachPiece(sNumbers, u",", append);
+    for (const Text& number : numbers.Items()) {
+        sAnswers += sAnswers.empty() ? u'(' : u',';
+        if (!append(number)) return false;
     }
-    if (!all) return {};
-    if (!answers.empty()) answers.pop_back();
-    if (several) answers.insert(0, 1, u'(').append(u")");
-    return answers;
+    sAnswers += u')';
+    return true;
 }
 
 } // namespace htdrdd

@@ -4,7 +4,6 @@
 #include "model/clsHTDRDD.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace htdrdd {
 
@@ -43,9 +42,9 @@ void RemoveVersions(clsHTDRDD& rdd);
 
 enum class ChoiceOrder { AsWritten, Sorted };
 
-/// The answer values of response choices that are given by their numbers with "," between them, in the form
-/// of a correct answer. Empty where a number, rounded, is that of no choice.
-[[nodiscard]] std::optional<Text> AnswersByNumber(const clsHTDRDDQuestion& question, TextView sNumbers,
-                                                  ChoiceOrder order);
+/// Makes a correct answer of the numbers of response choices, with "," between them. False where a number,
+/// rounded, is that of no choice.
+[[nodiscard]] bool AnswersByNumber(Text& sAnswers, const clsHTDRDDQuestion& question, TextView sNumbers,
+                                   ChoiceOrder order);
 
 } // namespace htdrdd

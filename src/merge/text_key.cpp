@@ -4,8 +4,6 @@
 #include "model/basPublicAnswers.h"
 #include "platform/text_stream.h"
 
-#include <optional>
-
 namespace htdrdd {
 namespace {
 
@@ -28,13 +26,13 @@ TextView SeparatorOf(TextView text) {
     return {};
 }
 
-/// The correct answer that a field gives to a question that takes numbers. Empty where a number is that of no
-/// choice.
-std::optional<Text> NumberedAnswers(clsHTDRDDQuestion& question, TextView part) {
-    const Text numbers(WithoutParentheses(part));
-    question.CorrectAnd = numbers.find(u'&') != Text::npos;
-    if (numbers.find(u'+') != Text::npos) question.ExtraCredit = true;
-    return AnswersByNumber(question, Replaced(Replaced(numbers, u"&", u","), u"+", u""), ChoiceOrder::Sorted);
+/// Makes the correct answer that a field gives to a question that takes numbers. False where a number is that
+/// of no choice.
+bool NumberedAnswers(Text& answers, clsHTDRDDQuestion& question, TextView part) {
+    part = WithoutParentheses(part);
+    question.CorrectAnd = part.find(u'&') != TextView::npos;
+    if (part.find(u'+') != TextView::npos) question.ExtraCredit = true;
+    return AnswersByNumber(answers, question, NumbersOf(part), ChoiceOrder::Sorted);
 }
 
 /// Gives the fields of a key of one version to the questions. False after a complaint.
@@ -51,6 +49,7 @@ bool MergeFields(clsHTDRDD& rdd, TextView text, const ImportComplaint& fails) {
     rdd.Versions->Question = 0;
     RemoveVersions(rdd);
 
+    Text answers;
     KeyQuestions questions(rdd);
     Pieces fields(text, separator);
     while (const auto field = fields.Next()) {
@@ -63,10 +62,10 @@ bool MergeFields(clsHTDRDD& rdd, TextView text, const ImportComplaint& fails) {
             continue;
         }
         question->QuestionText = parts.questionText;
-        const auto answer =
-            TakesNumbers(*question) ? NumberedAnswers(*question, parts.answer) : Text(parts.answer);
-        if (!answer) return fails(NoSuchAnswers(position, parts.answer));
-        basPublic::AssignCorrectAnswer(*question, *answer, 1, {});
+        const bool takesNumbers = TakesNumbers(*question);
+        if (takesNumbers && !NumberedAnswers(answers, *question, parts.answer))
+            return fails(NoSuchAnswers(position, parts.answer));
+        basPublic::AssignCorrectAnswer(*question, takesNumbers ? answers : parts.answer, 1, {});
     }
     return rdd.ValidateKey(fails.IsVerbose());
 }

@@ -35,6 +35,13 @@ bool TakesNumbers(const clsHTDRDDQuestion& question) {
     return question.AnswerValues->Count() > 0 && question.IncludeGrade;
 }
 
+Text NumbersOf(TextView part) {
+    Text numbers;
+    for (const char16_t unit : part)
+        if (unit != u'+') numbers += unit == u'&' ? u',' : unit;
+    return numbers;
+}
+
 bool TurnOff(clsHTDRDDQuestion& question) noexcept {
     const bool wasOn = question.IncludeGrade || question.SubjectiveField;
     question.IncludeGrade = false;

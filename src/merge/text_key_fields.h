@@ -29,6 +29,9 @@ struct TextKeyField {
 [[nodiscard]] std::int64_t NumKeyQuestions(const clsHTDRDDQuestions& questions);
 /// Whether correct answers are given by the numbers of the response choices.
 [[nodiscard]] bool TakesNumbers(const clsHTDRDDQuestion& question);
+/// The numbers of an answer part without parentheses: "&" separates them as "," does, and "+" is no part of
+/// them.
+[[nodiscard]] Text NumbersOf(TextView part);
 /// A question that is turned off is neither graded nor subjective. Gives whether it was on.
 bool TurnOff(clsHTDRDDQuestion& question) noexcept;
 

@@ -81,13 +81,12 @@ bool VersionLines::MergeField(std::int32_t position, const TextKeyField& field) 
     }
     if (field.isEmpty) return true;
     const auto question = rdd_.Questions->Item(position);
-    const auto answer =
-        TakesNumbers(*question)
-            ? AnswersByNumber(*question, Replaced(WithoutParentheses(field.answer), u"&", u","),
-                              ChoiceOrder::Sorted)
-            : Text(field.answer);
-    if (!answer) return fails_(NoSuchAnswers(position, field.answer));
-    basPublic::AssignCorrectAnswer(*question, *answer, lLine_, {});
+    Text answers;
+    const bool takesNumbers = TakesNumbers(*question);
+    if (takesNumbers && !AnswersByNumber(answers, *question, NumbersOf(WithoutParentheses(field.answer)),
+                                         ChoiceOrder::Sorted))
+        return fails_(NoSuchAnswers(position, field.answer));
+    basPublic::AssignCorrectAnswer(*question, takesNumbers ? answers : field.answer, lLine_, {});
     return true;
 }
 

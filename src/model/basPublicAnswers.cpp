@@ -7,21 +7,18 @@
 namespace htdrdd::basPublic {
 namespace {
 
-/// Codes of the pieces that are answer values, in the form in which they are filed.
-Text CodesOf(const clsHTDRDDQuestion& question, TextView answer) {
-    Text codes;
+/// Makes the codes of the pieces that are answer values, in the form in which they are filed.
+void MakeCodes(Text& codes, const clsHTDRDDQuestion& question, TextView answer) {
     EachPiece(answer, u",", [&](TextView piece) {
         const std::int32_t position = question.AnswerValues->Locate(piece);
         if (position > 0) codes.append(question.AnswerCodes->Item(position)).append(u",");
     });
     if (!codes.empty()) codes.pop_back();
     if (codes.find(u',') != Text::npos) codes.insert(0, 1, u'(').append(u")");
-    return codes;
 }
 
 void Lengthen(clsHTDRDDStrings& list, std::int32_t lKey) {
-    while (list.Count() < lKey)
-        if (!list.Add(u"")) throw Failure(Err::Memory);
+    if (!list.Lengthen(lKey)) throw Failure(Err::Memory);
 }
 
 } // namespace
@@ -33,8 +30,11 @@ Text CorrectAnswerToIndices(const clsHTDRDDQuestion& oQuestion, std::int32_t lKe
         TextView answer = oQuestion.CorrectAnswers->Item(lKey);
         if (answer.size() >= 2 && answer.front() == u'(' && answer.back() == u')')
             answer = answer.substr(1, answer.size() - 2);
-        result = CodesOf(oQuestion, answer);
-    } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.CorrectAnswerToIndices"); }
+        MakeCodes(result, oQuestion, answer);
+    } catch (...) {
+        ReportFailure(u"HTDRdd91 - basPublic.CorrectAnswerToIndices");
+        result.clear();
+    }
     return result;
 }
 
@@ -44,8 +44,13 @@ Text CorrectAnswerToCode(const clsHTDRDDQuestion& oQuestion, std::int32_t lKey) 
         if (oQuestion.CorrectAnswers->Count() < lKey) return result;
         const Text& answer = oQuestion.CorrectAnswers->Item(lKey);
         if (oQuestion.AnswerValues->Count() == 0) return answer;
-        const Text bare = Replaced(Replaced(answer, u"(", u""), u")", u"");
-        result = CodesOf(oQuestion, bare);
+        Text without;
+        TextView bare = answer;
+        if (bare.find_first_of(u"()") != TextView::npos) {
+            without = Replaced(Replaced(bare, u"(", u""), u")", u"");
+            bare = without;
+        }
+        MakeCodes(result, oQuestion, bare);
         if (!result.empty()) return result;
         // This is meant: the tests go by difference, and stored definitions carry codes made this way.
         if (!SameText(bare, oQuestion.BlankText))
@@ -54,7 +59,10 @@ Text CorrectAnswerToCode(const clsHTDRDDQuestion& oQuestion, std::int32_t lKey) 
             result = InvariantText(oQuestion.MultipleValue);
         else
             result = InvariantText(oQuestion.MissingValue);
-    } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.CorrectAnswerToCode"); }
+    } catch (...) {
+        ReportFailure(u"HTDRdd91 - basPublic.CorrectAnswerToCode");
+        result.clear();
+    }
     return result;
 }
 

@@ -115,10 +115,17 @@ public:
 
     /// Puts another item in an entry's place. The position stays; a key that the entry had is lost. Fails as
     /// Item does.
-    void Replace(const Index& index, T item, Where at = Where::current()) {
+    template <class U = T>
+    void Replace(const Index& index, U&& item, Where at = Where::current()) {
         Entry& entry = entries_[Find(index, at)];
+        entry.item = std::forward<U>(item);
+        entry.key = {};
         slotOfKey_.reset();
-        entry = Entry{std::move(item), {}};
+    }
+
+    /// Adds empty items without keys at the end until there are that many.
+    void Lengthen(std::int32_t count) {
+        if (count > Count()) entries_.resize(static_cast<std::size_t>(count));
     }
 
     /// Fails with 9 for a position that isn't there, with 5 for an unknown key.
