@@ -129,7 +129,7 @@ public:
     bool LoadHeader(TextView sHeaderFile) noexcept;
 
     /// Replaces the answer key by a text key, a single-byte file of correct answers without anything else:
-    /// one key, or a line for each standard test version. What the fields mean stands in docs/text-key.md.
+    /// one key, or a line for each standard test version. What the fields mean stands in docs/merging.md.
     /// The questions stay with their response choices; learning objectives, versions and correct answers are
     /// made anew. True where the key can be graded with afterwards; it is judged as ValidateKey does, and
     /// with several versions as ValidateVersions does. False without a file and for one that holds no field,
