@@ -2,6 +2,7 @@
 
 #include "foundation/version.h"
 #include "host/convert/convert.h"
+#include "host/diff/diff.h"
 #include "host/header/header.h"
 #include "host/output.h"
 #include "host/show/show.h"
@@ -18,7 +19,7 @@ namespace {
 using Command = std::function<ExitCode()>;
 
 constexpr const char* kExitCodes =
-    "Exit codes: 0 fine, 1 findings or a save that was declined, 2 usage, 3 a file "
+    "Exit codes: 0 fine, 1 findings, differences or a save that was declined, 2 usage, 3 a file "
     "that is missing, was refused or can't be written, 4 an internal failure.";
 
 void AddShow(CLI::App& app, ShowOptions& options, Command& command) {
@@ -38,6 +39,14 @@ void AddValidate(CLI::App& app, ValidateOptions& options, Command& command) {
                        "Tell everything that is wrong, not only the first of each check");
     validate->add_flag("--json", options.json, "Tell it for scripts, one JSON object for each file");
     validate->callback([&] { command = [&] { return Validate(options); }; });
+}
+
+void AddDiff(CLI::App& app, DiffOptions& options, Command& command) {
+    CLI::App* const diff = app.add_subcommand("diff", "Tell what two definitions would grade differently");
+    diff->add_option("A", options.before, "Definition file")->required()->type_name("");
+    diff->add_option("B", options.after, "Definition file")->required()->type_name("");
+    diff->add_flag("--json", options.json, "Tell it for scripts, as one JSON object");
+    diff->callback([&] { command = [&] { return Diff(options); }; });
 }
 
 void AddSaveFlags(CLI::App* app, SaveOptions& options) {
@@ -74,7 +83,7 @@ void AddHeader(CLI::App& app, HeaderOptions& options, Command& command) {
 } // namespace
 
 ExitCode RunCommandLine(int argc, char** argv) {
-    CLI::App app("Shows, judges and saves answer keys of tests and surveys", "htdrdd");
+    CLI::App app("Shows, judges, compares and saves answer keys of tests and surveys", "htdrdd");
     app.set_version_flag("--version", "htdrdd " + std::string(kRelease), "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.footer(kExitCodes);
@@ -86,6 +95,8 @@ ExitCode RunCommandLine(int argc, char** argv) {
     AddShow(app, showOptions, command);
     ValidateOptions validateOptions;
     AddValidate(app, validateOptions, command);
+    DiffOptions diffOptions;
+    AddDiff(app, diffOptions, command);
     ConvertOptions convertOptions;
     AddConvert(app, convertOptions, command);
     HeaderOptions headerOptions;

@@ -1,8 +1,9 @@
 #include "host/show/show_objectives.h"
 
+#include "host/numbers.h"
 #include "host/output.h"
-#include "host/show/numbers.h"
 #include "host/table.h"
+#include "host/wording.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -38,13 +39,6 @@ std::string ScaledScoreText(const clsHTDRDDScaledScore& score) {
     if (!score.DB->Table.empty()) text += " in table " + Harmless(score.DB->Table);
     if (!score.DB->Name.empty()) text += " of " + Harmless(score.DB->Name);
     return text;
-}
-
-/// Its own or, in files that have none there, that of the document.
-const clsHTDRDDScaledScore& ScaledScoreOf(const clsHTDRDD& definition, std::int32_t objective) {
-    const clsHTDRDDScaledScore& own = *definition.Subtests->Item(objective)->ScaledScore;
-    if (own.ScaledScoreValues != HTDScaledScoreValuesNone) return own;
-    return objective == 1 ? *definition.ScaledScore : *definition.SubtestScaledScore;
 }
 
 /// Things that several learning objectives share, each listed once under a label of its own.

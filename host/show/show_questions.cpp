@@ -1,7 +1,7 @@
 #include "host/show/show_questions.h"
 
+#include "host/numbers.h"
 #include "host/output.h"
-#include "host/show/numbers.h"
 #include "host/table.h"
 
 namespace htdrdd::host {

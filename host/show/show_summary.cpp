@@ -4,6 +4,7 @@
 #include "host/show/show_objectives.h"
 #include "host/show/show_questions.h"
 #include "host/table.h"
+#include "host/wording.h"
 
 #include <utility>
 #include <vector>
@@ -12,15 +13,6 @@ namespace htdrdd::host {
 namespace {
 
 using Facts = std::vector<std::pair<const char*, std::string>>;
-
-std::string TypeName(HTDReportType type) {
-    switch (type) {
-    case HTDReportTypeGrade: return "test";
-    case HTDReportTypeSurvey: return "survey";
-    case HTDReportTypeGenericGrade: return "generic key";
-    }
-    return "unknown (" + std::to_string(static_cast<std::int32_t>(type)) + ")";
-}
 
 /// "50: 44 graded, 2 subjective"
 std::string QuestionCounts(const clsHTDRDDQuestions& questions) {
@@ -40,14 +32,10 @@ std::string QuestionCounts(const clsHTDRDDQuestions& questions) {
 }
 
 /// "2 standard versions (A, B), told by question 2, Test form"
-std::string VersionsText(const clsHTDRDD& definition) {
+std::string VersionsLine(const clsHTDRDD& definition) {
     const clsHTDRDDVersions& versions = *definition.Versions;
-    const HTDVersionType type = versions.VType();
-    if (type == HTDVersionTypeNone) return "none";
-    std::string text = std::to_string(versions.Answers->Count());
-    text += type == HTDVersionTypeKey ? " standard versions (" : " scrambled versions (";
-    text += Harmless(versions.Answers->AsString(u", "));
-    text += "), told by question " + std::to_string(versions.Question);
+    std::string text = VersionsText(versions);
+    if (versions.VType() == HTDVersionTypeNone) return text;
     if (const auto question = definition.Questions->Item(versions.Question))
         if (!question->QuestionName.empty()) text += ", " + Harmless(question->QuestionName);
     return text;
@@ -79,7 +67,7 @@ std::string Summary(const clsHTDRDD& definition, const Terminal& terminal) {
                        {"Notes", Harmless(definition.Notes)},
                        {"Pages", std::to_string(definition.NumPages)},
                        {"Questions", QuestionCounts(*definition.Questions)},
-                       {"Versions", VersionsText(definition)},
+                       {"Versions", VersionsLine(definition)},
                        {"Header", definition.CustomHeader ? "custom" : ""}},
                       terminal);
     text += ObjectivesText(definition, memberships, terminal);

@@ -70,6 +70,24 @@ header() {
     compare new.rdd quiz.rdd
     run header save quiz.rdd older.header
 }
+# edited SAMPLE EXPRESSION FILE: writes a sample in UTF-16 anew, edited by sed.
+edited() {
+    iconv -f UTF-16 -t UTF-8 "$samples/$1.rdd" | sed "$2" | iconv -f UTF-8 -t UTF-16 >"$3"
+}
+differences() {
+    edited quiz '/=Q1/,/^Bench/s/^CorrectAnswer=C/CorrectAnswer=B/; /=Q2/,/^Bench/s/^IncludeGrade=-1/IncludeGrade=0/
+        /=Q4/,/^Bench/{s/^ExtraCredit=-1/ExtraCredit=0/; s/^CorrectPoints=2/CorrectPoints=.5/; s/^AnswerValues=A/&1/}
+        s/^StartValues=60/StartValues=55/' new.rdd
+    run diff quiz.rdd new.rdd
+    run diff new.rdd quiz.rdd
+    run diff --json quiz.rdd new.rdd
+    edited exam 's/^Sequence=1\t2\t3/Sequence=1\t3\t2/; s/^\(ScaledScoreDBUser=\).*\r/\1\r/' new.rdd
+    run diff exam.rdd new.rdd
+    edited exam 's/^Question[NT].*=/&?/; s/^Notes=/&?/; s/^\(Benchmark=\).*\r/\11\r/; s/^_R1C1_FLD.*=/&?/' new.rdd
+    run diff exam.rdd new.rdd
+    run diff quiz.rdd generic.rdd
+    run diff missing.rdd generic.rdd
+}
 refused() {
     mkdir folder
     run convert missing.rdd new

@@ -1,4 +1,4 @@
-#include "host/show/numbers.h"
+#include "host/numbers.h"
 
 #include "foundation/HTDValue.h"
 
