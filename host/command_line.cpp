@@ -4,6 +4,7 @@
 #include "host/convert/convert.h"
 #include "host/diff/diff.h"
 #include "host/header/header.h"
+#include "host/merge/merge.h"
 #include "host/output.h"
 #include "host/show/show.h"
 #include "host/validate/validate.h"
@@ -80,10 +81,28 @@ void AddHeader(CLI::App& app, HeaderOptions& options, Command& command) {
     AddSaveFlags(load, options.save);
 }
 
+void AddMerge(CLI::App& app, MergeOptions& options, Command& command) {
+    CLI::App* const merge = app.add_subcommand("merge", "Merge an answer key into a definition");
+    merge->add_option("ACTIVE", options.active, "Definition file")->required()->type_name("");
+    merge->add_option("KEY", options.key, "Text key, or with --generic a definition file")
+        ->required()
+        ->type_name("");
+    CLI::Option* const out = merge->add_option("-o", options.save.file, "File to write; without it none is");
+    out->type_name("OUT");
+    merge->add_flag("--generic", options.generic, "KEY is a generic key");
+    merge->add_flag("--plain", options.save.plain, "Save as plain text, not as an archive")->needs(out);
+    merge->add_flag("--force", options.force, "Save in spite of complaints")->needs(out);
+    merge->add_flag("--json", options.json, "Tell what changed for scripts, as one JSON object");
+    merge->callback([&] {
+        options.save.quiet = options.json;
+        command = [&] { return Merge(options); };
+    });
+}
+
 } // namespace
 
 ExitCode RunCommandLine(int argc, char** argv) {
-    CLI::App app("Shows, judges, compares and saves answer keys of tests and surveys", "htdrdd");
+    CLI::App app("Shows, judges, compares, merges and saves answer keys of tests and surveys", "htdrdd");
     app.set_version_flag("--version", "htdrdd " + std::string(kRelease), "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.footer(kExitCodes);
@@ -99,6 +118,8 @@ ExitCode RunCommandLine(int argc, char** argv) {
     AddDiff(app, diffOptions, command);
     ConvertOptions convertOptions;
     AddConvert(app, convertOptions, command);
+    MergeOptions mergeOptions;
+    AddMerge(app, mergeOptions, command);
     HeaderOptions headerOptions;
     AddHeader(app, headerOptions, command);
     try {

@@ -32,6 +32,25 @@ bool Definitions::ReadHeader(clsHTDRDD& definition, const std::string& file) {
     return false;
 }
 
+Ref<clsHTDRDD> Definitions::ReadGenericKey(const std::string& file) {
+    auto key = Read(file);
+    if (!key || key->ReportType == HTDReportTypeGenericGrade) return key;
+    complaints_->Forget();
+    Refuse(FromNativePath(file), "it is no generic key.");
+    return {};
+}
+
+bool Definitions::MergeTextKey(clsHTDRDD& active, const std::string& file) {
+    const Text path = FromNativePath(file);
+    complaints_->Forget();
+    // The library reports an empty file; one sentence is enough.
+    std::error_code error;
+    const bool isEmpty = std::filesystem::file_size(file, error) == 0;
+    if (!isEmpty && active.MergeTextKey(path)) return true;
+    if (!complaints_->Any() || complaints_->Unreadable()) Refuse(path, "it holds no answers.");
+    return false;
+}
+
 void Definitions::Refuse(TextView path, const char* otherwise) {
     anyRefused_ = true;
     Complain(Harmless(path) + " was refused: " + Reason(path, otherwise));

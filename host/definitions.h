@@ -21,8 +21,12 @@ public:
     /// The definition of a file that was named on the command line. A file that is refused gives an empty
     /// reference, and one sentence says why.
     [[nodiscard]] Ref<clsHTDRDD> Read(const std::string& file);
+    /// The same for a generic key.
+    [[nodiscard]] Ref<clsHTDRDD> ReadGenericKey(const std::string& file);
     /// Takes the header settings of a header file over, or says why it was refused.
     [[nodiscard]] bool ReadHeader(clsHTDRDD& definition, const std::string& file);
+    /// Merges the text key of a file, or says why it was refused. False after a complaint, too.
+    [[nodiscard]] bool MergeTextKey(clsHTDRDD& active, const std::string& file);
     /// Whether any file was refused.
     [[nodiscard]] bool AnyRefused() const noexcept { return anyRefused_; }
     /// The host object.

@@ -8,9 +8,9 @@ namespace {
 
 /// Runs one save of the library, which gives whether it wrote the file.
 template <class Save>
-ExitCode SaveAs(const std::string& file, const char* form, Complaints& complaints, Save save) {
+ExitCode SaveAs(const SaveOptions& options, const char* form, Complaints& complaints, Save save) {
     FileSystem& files = CurrentFileSystem();
-    const Text path = FromNativePath(file);
+    const Text path = FromNativePath(options.file);
     const Text backup = path + u".old";
     const bool fileStood = files.FileExists(path);
     const bool backupStood = files.FileExists(backup);
@@ -19,8 +19,8 @@ ExitCode SaveAs(const std::string& file, const char* form, Complaints& complaint
     const bool saved = save(path) && !complaints.Failed();
     const bool backupMade = !backupStood && files.FileExists(backup);
 
-    if (saved) Print(Harmless(path) + " was saved as " + form + ".\n");
-    if (backupMade) Print(Harmless(backup) + " keeps the older file.\n");
+    if (saved && !options.quiet) Print(Harmless(path) + " was saved as " + form + ".\n");
+    if (backupMade && !options.quiet) Print(Harmless(backup) + " keeps the older file.\n");
     if (saved) return ExitCode::Fine;
     if (complaints.Declined()) {
         Complain(Harmless(path) + " was not saved; --yes saves it with its test versions as they are.");
@@ -36,12 +36,12 @@ ExitCode SaveAs(const std::string& file, const char* form, Complaints& complaint
 
 ExitCode SaveDefinition(clsHTDRDD& definition, const SaveOptions& options, Complaints& complaints) {
     complaints.AnswerYes(options.yes);
-    return SaveAs(options.file, options.plain ? "plain text" : "an archive", complaints,
-                  [&](TextView path) { return definition.Save(path, !options.plain, true); });
+    return SaveAs(options, options.plain ? "plain text" : "an archive", complaints,
+                  [&](TextView path) { return definition.Save(path, !options.plain, !options.judged); });
 }
 
 ExitCode SaveHeaderFile(clsHTDRDD& definition, const std::string& file, Complaints& complaints) {
-    return SaveAs(file, "a header file", complaints,
+    return SaveAs({.file = file}, "a header file", complaints,
                   [&](TextView path) { return definition.SaveHeader(path); });
 }
 

@@ -10,9 +10,11 @@
 namespace htdrdd::host {
 
 struct SaveOptions {
-    std::string file;
-    bool plain = false; ///< as text, not as an archive
-    bool yes = false;   ///< questions are answered with yes
+    std::string file{};
+    bool plain = false;  ///< as text, not as an archive
+    bool yes = false;    ///< questions are answered with yes
+    bool judged = false; ///< the user knows what the test versions are like: nothing is asked or told of them
+    bool quiet = false;  ///< a save that goes well isn't told
 };
 
 /// Saves a definition and prints what was written and whether a backup was made. If nothing was, one sentence

@@ -88,6 +88,34 @@ differences() {
     run diff quiz.rdd generic.rdd
     run diff missing.rdd generic.rdd
 }
+merge() {
+    printf '3\t2+\t\t(1&4)|How?\t5\r\n' >one.txt
+    run merge quiz.rdd one.txt
+    run merge --plain quiz.rdd one.txt -o one.rdd
+    run diff quiz.rdd one.rdd
+    printf 'Red\t1\t2\t3\t4\t5\r\nBlue\t2\t1\t4\t3,1\t5\r\n' >versions.txt
+    run merge --json quiz.rdd versions.txt -o quiz.rdd
+    cmp quiz.rdd "$samples/quiz.rdd"
+    run merge --generic older.rdd generic.rdd
+}
+unmerged() {
+    mkdir folder
+    printf 'Red\t1\t2\t3\t4\t5\r\nBlue\t2\t1\t4\t3,1\t4\r\n' >versions.txt
+    run merge quiz.rdd versions.txt -o new.rdd
+    run merge --force quiz.rdd versions.txt -o new.rdd
+    printf '9\t1\t2\t2\t2\r\n' >bad.txt
+    run merge quiz.rdd bad.txt
+    edited generic '0,/^CorrectAnswer=2/s//CorrectAnswer=/' unanswered.rdd
+    run merge --generic exam.rdd unanswered.rdd -o none.rdd
+    : >empty.txt
+    printf '\t\t' >tabs.txt
+    for key in missing.txt folder empty.txt tabs.txt; do run merge quiz.rdd $key -o none.rdd; done
+    for key in tabs.txt quiz.rdd; do run merge --generic quiz.rdd $key -o none.rdd; done
+    run merge quiz.rdd versions.txt -o ./versions.txt
+    run merge quiz.rdd versions.txt --force
+    run merge --force quiz.rdd versions.txt -o none/new
+    ls *.rdd
+}
 refused() {
     mkdir folder
     run convert missing.rdd new

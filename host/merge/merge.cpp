@@ -1,0 +1,62 @@
+#include "host/merge/merge.h"
+
+#include "host/definitions.h"
+#include "host/diff/changes_text.h"
+#include "host/diff/key_changes.h"
+#include "host/json_text.h"
+#include "host/output.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace htdrdd::host {
+namespace {
+
+/// Whether the key could be merged and can be graded with.
+bool MergeKey(clsHTDRDD& active, const MergeOptions& options, Definitions& definitions) {
+    if (!options.generic) return definitions.MergeTextKey(active, options.key);
+    const auto key = definitions.ReadGenericKey(options.key);
+    if (!key || !active.MergeGenericKey(key)) return false;
+    const bool isKeyValid = active.ValidateKey();
+    return active.ValidateVersions() && isKeyValid;
+}
+
+} // namespace
+
+ExitCode Merge(const MergeOptions& options) {
+    const Text out = FromNativePath(options.save.file);
+    if (std::error_code error; std::filesystem::equivalent(options.key, options.save.file, error)) {
+        Complain(Harmless(out) + " is the key itself.");
+        return ExitCode::Usage;
+    }
+    Definitions definitions;
+    const auto active = definitions.Read(options.active);
+    if (!active) return ExitCode::Refused;
+    const auto before = KeySnapshot(*active);
+    const bool merged = MergeKey(*active, options, definitions);
+    if (definitions.AnyRefused()) return ExitCode::Refused;
+
+    const auto changes = KeyChanges(before, KeySnapshot(*active));
+    const bool saves = !out.empty() && (merged || options.force);
+    if (!options.json) Print(ChangesText(changes, Terminal::OfOutput()) + (saves ? "\n" : ""));
+    auto code = merged ? ExitCode::Fine : ExitCode::Findings;
+    bool written = false;
+    if (saves) {
+        const ExitCode saved = SaveDefinition(*active, options.save, definitions.Heard());
+        written = saved == ExitCode::Fine;
+        if (!written) code = saved;
+    } else if (!out.empty()) {
+        Complain(Harmless(out) + " was not written; --force writes it all the same.");
+    }
+    if (options.json) {
+        using Json = nlohmann::ordered_json;
+        Json object{{"files", {ToUtf8(FromNativePath(options.active)), ToUtf8(FromNativePath(options.key))}},
+                    {"merged", merged},
+                    {"written", written ? Json(ToUtf8(out)) : Json()}};
+        object.update(changes);
+        Print(JsonText(object, 2) + '\n');
+    }
+    return code;
+}
+
+} // namespace htdrdd::host
