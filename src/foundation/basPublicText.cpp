@@ -4,6 +4,7 @@
 #include "platform/number.h"
 #include "platform/process.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace htdrdd::basPublic {
@@ -40,6 +41,8 @@ double TextToDouble(TextView sValue) noexcept {
     double result = 0;
     IgnoreFailure([&] {
         if (sValue.ends_with(u'%')) sValue.remove_suffix(1);
+        const auto mayBeNumber = [](char16_t unit) { return (unit >= u'0' && unit <= u'9') || unit == u'&'; };
+        if (std::none_of(sValue.begin(), sValue.end(), mayBeNumber)) return; // a failure costs far more
         try {
             result = sValue.find(u'.') != TextView::npos ? LeadingNumber(sValue) : RegionalNumber(sValue);
         } catch (const Failure&) { result = LeadingNumber(sValue); }

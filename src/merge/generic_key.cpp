@@ -64,7 +64,8 @@ void TakeOver(clsHTDRDDQuestion& question, const clsHTDRDDQuestion& generic) {
     question.SubjectiveField = generic.SubjectiveField;
     question.SubjectivePoints = generic.SubjectivePoints;
     question.Subtests->RemoveAll();
-    question.Subtests->AddArray(generic.Subtests->AsArray());
+    const Array<bool> includes = generic.Subtests->AsArray(); // a report may make the host replace either
+    question.Subtests->AddArray(includes);
     question.Topic = generic.Topic;
 }
 

@@ -41,7 +41,7 @@ bool MergeFields(clsHTDRDD& rdd, TextView text, const ImportComplaint& fails) {
     if (separator.empty()) return fails(u"The format of the text key file is invalid.");
     text = WithoutTrailing(WithoutTrailing(text, separator), kLineEnd);
     if (text.empty()) return false;
-    const std::int64_t surplus = NumKeyQuestions(*rdd.Questions) - NumPieces(text, separator);
+    const std::int64_t surplus = NumKeyQuestions(rdd) - NumPieces(text, separator);
     if (surplus < 0) return fails(kTooManyFields);
 
     TurnOffLast(*rdd.Questions, surplus, TurnOff);

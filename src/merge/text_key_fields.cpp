@@ -1,7 +1,5 @@
 #include "merge/text_key_fields.h"
 
-#include <algorithm>
-
 namespace htdrdd {
 
 Text NoSuchAnswers(std::int32_t lPosition, TextView sAnswers) {
@@ -27,8 +25,10 @@ std::int64_t NumPieces(TextView text, TextView separator) noexcept {
     return number;
 }
 
-std::int64_t NumKeyQuestions(const clsHTDRDDQuestions& questions) {
-    return std::int64_t{questions.NumGraded()} + questions.NumSubjective();
+std::int64_t NumKeyQuestions(const clsHTDRDD& rdd) {
+    const std::int64_t graded =
+        rdd.Questions->NumGraded(); // a report may make the host replace the questions
+    return graded + rdd.Questions->NumSubjective();
 }
 
 bool TakesNumbers(const clsHTDRDDQuestion& question) {
@@ -53,18 +53,11 @@ KeyQuestions::KeyQuestions(const clsHTDRDD& rdd)
     : rdd_(rdd), lSubjective_(rdd.Questions->NextSubjective(0)), lGraded_(rdd.Questions->NextGraded(0)) {}
 
 std::int32_t KeyQuestions::Next() {
-    const clsHTDRDDQuestions& questions = *rdd_.Questions;
-    // Asking anew for both kinds at each step would look through all the rest where one of them is missing. A
-    // position that hasn't been reached stays the next one, unless that question was turned off: it may be
-    // one that stands at an earlier position, too.
-    const auto bring = [&](std::int32_t& next, bool clsHTDRDDQuestion::*isOfKind, auto nextOfKind) {
-        if (next == 0) return;
-        const auto question = questions.Item(next);
-        if (next > lPosition_ && question && (*question).*isOfKind) return;
-        next = (questions.*nextOfKind)(std::max(next, lPosition_));
-    };
-    bring(lSubjective_, &clsHTDRDDQuestion::SubjectiveField, &clsHTDRDDQuestions::NextSubjective);
-    bring(lGraded_, &clsHTDRDDQuestion::IncludeGrade, &clsHTDRDDQuestions::NextGraded);
+    // A position that hasn't been reached stays the next one, since flags change only behind it. Asking anew
+    // for both kinds at each step would look through all the rest where one of them is missing.
+    if (lSubjective_ != 0 && lSubjective_ <= lPosition_)
+        lSubjective_ = rdd_.Questions->NextSubjective(lPosition_);
+    if (lGraded_ != 0 && lGraded_ <= lPosition_) lGraded_ = rdd_.Questions->NextGraded(lPosition_);
     const bool isSubjective = lSubjective_ > 0 && (lSubjective_ < lGraded_ || lGraded_ == 0);
     lPosition_ = isSubjective ? lSubjective_ : lGraded_;
     return lPosition_;

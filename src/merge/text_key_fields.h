@@ -26,7 +26,7 @@ struct TextKeyField {
 [[nodiscard]] std::int64_t NumPieces(TextView text, TextView separator) noexcept;
 
 /// Graded questions and subjective ones; one that is both counts twice.
-[[nodiscard]] std::int64_t NumKeyQuestions(const clsHTDRDDQuestions& questions);
+[[nodiscard]] std::int64_t NumKeyQuestions(const clsHTDRDD& rdd);
 /// Whether correct answers are given by the numbers of the response choices.
 [[nodiscard]] bool TakesNumbers(const clsHTDRDDQuestion& question);
 /// The numbers of an answer part without parentheses: "&" separates them as "," does, and "+" is no part of
@@ -36,7 +36,7 @@ struct TextKeyField {
 bool TurnOff(clsHTDRDDQuestion& question) noexcept;
 
 /// Walks the questions that fields belong to, the graded and the subjective ones, in order of position.
-/// Questions may be turned off meanwhile, but not on.
+/// Meanwhile the one that it has come to may be turned off.
 class KeyQuestions {
 public:
     explicit KeyQuestions(const clsHTDRDD& rdd);

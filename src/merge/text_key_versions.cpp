@@ -50,13 +50,12 @@ bool VersionLines::Merge(TextView line) {
         ++lGaps_;
         return true;
     }
-    // Each question's lists hold an entry for each gap: a file of empty lines mustn't take all memory.
-    constexpr std::int64_t kMostEntries = std::int64_t{1} << 24U;
-    if (lGaps_ * fields > kMostEntries) throw Failure(Err::Memory, Where::current());
-
-    const std::int64_t surplus = NumKeyQuestions(*rdd_.Questions) - fields + 1;
+    const std::int64_t surplus = NumKeyQuestions(rdd_) - fields + 1;
     if (surplus < 0) return fails_(kTooManyFields);
     if (surplus > 0 && lLine_ > 1) return fails_(kVaryingQuestions);
+    // Each question's lists hold an entry for each gap: a file of empty lines mustn't take all memory.
+    constexpr std::int64_t kMostGaps = 1'000'000;
+    if (lGaps_ * fields > kMostGaps) throw Failure(Err::Memory, Where::current());
     TurnOffLast(*rdd_.Questions, surplus, TurnOff);
 
     Pieces pieces(line, kTab);

@@ -80,7 +80,8 @@ void AssignCorrectAnswer(clsHTDRDDQuestion& oQuestion, TextView sAnswer, std::in
         }
         oQuestion.CorrectAnswers->Item(lKey, answer);
         oQuestion.CorrectAnswerPoints->Item(lKey, points);
-        oQuestion.CorrectCodes->Item(lKey, CorrectAnswerToCode(oQuestion, lKey));
+        const Text code = CorrectAnswerToCode(oQuestion, lKey); // a report may make the host replace the list
+        oQuestion.CorrectCodes->Item(lKey, code);
         if (lKey >= 2) return;
         oQuestion.NumCorrect = NumStringItems(answer, u",");
         if (oQuestion.CorrectAnd && oQuestion.NumCorrect >= 2)

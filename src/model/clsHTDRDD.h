@@ -128,25 +128,33 @@ public:
     /// line isn't [Header], and false after a failure, such as a file that isn't there, which is reported.
     bool LoadHeader(TextView sHeaderFile) noexcept;
 
-    /// Replaces the answer key by a text key, a single-byte file of correct answers without anything else:
-    /// one key, or a line for each standard test version. What the fields mean stands in docs/merging.md.
-    /// The questions stay with their response choices; learning objectives, versions and correct answers are
-    /// made anew. True where the key can be graded with afterwards; it is judged as ValidateKey does, and
-    /// with several versions as ValidateVersions does. False without a file and for one that holds no field,
-    /// in silence; after a complaint, which bVerbose false keeps from the user; and after a failure, such as
-    /// an empty file, which is reported. Nothing changes before the number of fields fits the questions.
-    /// Afterwards nothing is taken back: keep a Copy to go back to.
+    /// Replaces the answer key by a text key, a single-byte file of correct answers: one key, or a line for
+    /// each standard test version, which takes a question in Versions->Question. docs/merging.md tells what
+    /// may stand in it. True where the key can be graded with afterwards: it is judged as ValidateKey does,
+    /// and with several versions as ValidateVersions does. False without a file and for one that holds no
+    /// field, in silence; after a complaint, which bVerbose false keeps from the user; and after a failure,
+    /// such as an empty file, which is reported.
+    /// - Questions keep their response choices and get the texts that the file has for them, or empty ones.
+    ///   Those that it has no field for are turned off.
+    /// - Versions, correct answers and learning objectives are made anew; of these there is one then, with
+    ///   the benchmark of the first.
+    /// - A key that is refused as a whole, for its form, for more fields than questions, or for versions
+    ///   without a question that tells them, changes nothing. Any other complaint leaves what was merged up
+    ///   to then, and the old key is gone: keep a Copy to go back to.
     bool MergeTextKey(TextView sKeyFile, bool bVerbose = true) noexcept;
 
     /// Lays a generic key over this definition: its graded questions over the graded ones here, one after the
-    /// other, and its subjective ones over the subjective ones. Questions here that are left over are turned
-    /// off, from the end on. Names and response choices stay; nearly all else comes from the generic key, and
-    /// the two share the learning objectives afterwards: this is meant.
-    /// True where the merge ran to its end; the key isn't judged. False, in silence, for an empty reference
-    /// and another type of report; after a complaint, which bVerbose false keeps from the user; and after a
-    /// failure, which is reported.
-    /// With too many graded questions nothing changes. Afterwards nothing is taken back: keep a Copy to go
-    /// back to.
+    /// other, and its subjective ones over the subjective ones. True where the merge ran to its end; the key
+    /// isn't judged. False, in silence, for an empty reference and another type of report; after a complaint,
+    /// which bVerbose false keeps from the user; and after a failure, which is reported.
+    /// - Questions keep their names and response choices and take nearly all else. Those that are left over,
+    ///   from the end on, are turned off; all that got none lose their answers.
+    /// - Grade scales, scaled scores, header settings and the learning objectives that a question is in come
+    ///   from the generic key; the two share the learning objectives afterwards: this is meant. There is one
+    ///   test version then.
+    /// - With too many graded questions nothing changes; with too many subjective ones, graded questions that
+    ///   are left over are off. Any other complaint leaves what was merged up to then: keep a Copy to go back
+    ///   to.
     bool MergeGenericKey(const Ref<clsHTDRDD>& oGenericRDD, bool bVerbose = true) noexcept;
 
     /// Whether the scaled score of the learning objective at a position can be used, or with -1 that of any.

@@ -45,33 +45,53 @@ TEST_F(GenericKeys, AreLaidOverQuestionsOfTheSameKind) {
 TEST_F(GenericKeys, BringAllButTheForm) {
     rdd = Made(u"/exam.rdd", active_, {});
     const auto generic = Made(u"/generic.rdd", generic_, {});
-    EXPECT_TRUE(generic->Save(u"/saved.rdd") && generic->Read(u"/saved.rdd"));
+    generic->Questions->Item(4)->CorrectAnswerPoints->Add(u"9"); // no partial credit, so they don't count
+    rdd->Versions->Sequences->AddDefault(2);
+    const auto oldScore = rdd->ScaledScore;
+    oldScore->ScaledScoreName = u"Old";
     EXPECT_TRUE(rdd->MergeGenericKey(generic));
     EXPECT_EQ(rdd->GradeScale->ScaleName + rdd->GradeScale->AsString(true), u"Pass60\t0");
     EXPECT_EQ(rdd->SubtestGradeScale->ScaleName + rdd->SubtestGradeScale->AsString(), u"OwnA");
-    EXPECT_EQ(Told(*rdd->ScaledScore), Told(*generic->ScaledScore));
+    EXPECT_EQ(rdd->ScaledScore->ScaledScoreName + rdd->SubtestScaledScore->ScaledScoreName, u"NormOther");
     EXPECT_NE(rdd->ScaledScore, generic->ScaledScore);
+    EXPECT_EQ(oldScore->ScaledScoreName, u""); // it is cleared before it is replaced
     EXPECT_TRUE(rdd->CustomHeader);
     EXPECT_EQ(rdd->Header->Item(u"OWN").ToText(), u"1");
     EXPECT_EQ(rdd->Subtests->Item(2), generic->Subtests->Item(3)); // shared
+    EXPECT_EQ(rdd->Versions->Sequences->Count(), 1);
     EXPECT_EQ(rdd->Versions->Sequences->Item(1)->AsString(), u"1\t2\t3\t4\t5\t6\t7");
+
     const auto question = rdd->Questions->Item(2);
-    EXPECT_EQ(question->QuestionName, u"Q1");
-    EXPECT_EQ(question->CorrectCodes->Item(1), u"(2,1)");
+    const auto source = generic->Questions->Item(2);
+    EXPECT_EQ(question->CorrectAnswers->AsString() + question->CorrectCodes->AsString(), u"(B,A)(2,1)");
     EXPECT_EQ(question->CorrectAnswerPoints->Item(1), u"1,1");
     EXPECT_EQ(rdd->Questions->Item(3)->CorrectAnswerPoints->Item(1), u"");
-    EXPECT_EQ(question->CorrectPoints, 2);
+    source->QuestionName = question->QuestionName; // what a question keeps
+    source->AnswerValues = question->AnswerValues;
+    source->AnswerCodes = question->AnswerCodes;
+    source->CorrectAnswers = question->CorrectAnswers;
+    source->CorrectCodes = question->CorrectCodes;
+    source->Subtests = question->Subtests;
+    EXPECT_EQ(Told(*question), Told(*source));
+}
 
+TEST_F(GenericKeys, SurviveFiles) {
+    rdd = Made(u"/exam.rdd", active_, {});
+    const auto generic = Made(u"/generic.rdd", generic_, {u"IDField=-1=>IDField=0"});
+    EXPECT_TRUE(generic->Save(u"/saved.rdd") && generic->Read(u"/saved.rdd"));
+    EXPECT_TRUE(rdd->MergeGenericKey(generic));
     const Text merged = KeyOf(*rdd);
-    EXPECT_TRUE(rdd->Save(u"/merged.rdd") && rdd->Read(u"/merged.rdd"));
-    EXPECT_EQ(KeyOf(*rdd), merged);
-    EXPECT_TRUE(rdd->ValidateKey());
+    EXPECT_TRUE(rdd->Save(u"/merged.rdd") && rdd->Read(u"/merged.rdd") && rdd->ValidateKey());
+    EXPECT_EQ(Replaced(KeyOf(*rdd), u"!", u""), merged); // empty points aren't filed
 }
 
 TEST_F(GenericKeys, OfAnotherKindAreRefusedInSilence) {
     rdd = Made(u"/exam.rdd", active_, {});
     EXPECT_EQ(Merged({}), u"false unchanged");
     EXPECT_EQ(Merged(rdd), u"false unchanged");
+    rdd->Questions->RemoveAll();
+    const auto generic = Made(u"/generic.rdd", generic_, {});
+    EXPECT_TRUE(Merged(generic, false).starts_with(u"false unchanged ! (silent) Key Import Error: "));
 }
 
 /// The steps run on one object: what is emptied first is empty when it is taken over.

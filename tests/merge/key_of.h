@@ -6,8 +6,9 @@
 namespace htdrdd::test {
 
 /// "Overall 70 | 1: A/B | g1 B/C 'One' | -1 | s&1 (A,B)": learning objectives with benchmarks, the versions,
-/// and each question: graded, subjective, x for extra credit, p for partial credit, & where all answers are
-/// demanded, m where several may be marked, its memberships, the correct answer of each key and the text.
+/// and each question: ! where the lists of its keys differ in length, graded, subjective, x for extra credit,
+/// p for partial credit, & where all answers are demanded, m where several may be marked, its memberships,
+/// the correct answer of each key and the text.
 inline Text KeyOf(const clsHTDRDD& rdd) {
     Text told;
     Each(*rdd.Subtests, [&](const clsHTDRDDSubtest& subtest) {
@@ -18,6 +19,8 @@ inline Text KeyOf(const clsHTDRDD& rdd) {
     Each(*rdd.Questions, [&](const clsHTDRDDQuestion& question) {
         told += u" | ";
         const auto flag = [&](bool isSet, char16_t sign) { told.append(isSet ? 1 : 0, sign); };
+        const std::int32_t keys = question.CorrectAnswers->Count();
+        flag(question.CorrectCodes->Count() != keys || question.CorrectAnswerPoints->Count() != keys, u'!');
         flag(!question.IncludeGrade && !question.SubjectiveField, u'-');
         flag(question.IncludeGrade, u'g');
         flag(question.SubjectiveField, u's');
