@@ -49,11 +49,10 @@ TextView WithoutParentheses(TextView text) noexcept {
 
 bool AnswersByNumber(Text& sAnswers, const clsHTDRDDQuestion& question, TextView sNumbers,
                      ChoiceOrder order) {
-    const auto choices = question.AnswerValues;
     const auto append = [&](TextView number) {
         const double choice = std::nearbyint(LeadingNumber(number));
-        if (!(choice >= 1 && choice <= choices->Count())) return false;
-        sAnswers += choices->Item(static_cast<std::int32_t>(choice));
+        if (!(choice >= 1 && choice <= question.AnswerValues->Count())) return false;
+        sAnswers += question.AnswerValues->Item(static_cast<std::int32_t>(choice));
         return true;
     };
     sAnswers.clear();
