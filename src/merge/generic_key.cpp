@@ -147,7 +147,7 @@ bool clsHTDRDD::MergeGenericKey(const Ref<clsHTDRDD>& oGenericRDD, bool bVerbose
     bool result = false;
     try {
         const Ref<clsHTDRDD> self(this); // a report may make the host release either
-        const Ref<clsHTDRDD> generic = oGenericRDD;
+        const Ref<clsHTDRDD> generic(oGenericRDD.Get());
         if (!generic || generic->ReportType != HTDReportTypeGenericGrade) return false;
         const ImportComplaint fails(kLocation, bVerbose);
 
