@@ -57,9 +57,7 @@ bool clsHTDRDDStrings::AddDelimitedString(TextView Items, TextView sDelimiter) n
             items = Items;
             Items = items;
         }
-        std::size_t pieces = 0;
-        EachPiece(Items, delimiter, [&](TextView) { ++pieces; });
-        mItems.Reserve(pieces);
+        mItems.Reserve(NumPieces(Items, delimiter));
         EachPiece(Items, delimiter, [&](TextView piece) { AddByOwnText(piece); });
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDStrings.AddDelimitedString"); }

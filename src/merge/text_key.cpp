@@ -41,7 +41,8 @@ bool MergeFields(clsHTDRDD& rdd, TextView text, const ImportComplaint& fails) {
     if (separator.empty()) return fails(u"The format of the text key file is invalid.");
     text = WithoutTrailing(WithoutTrailing(text, separator), kLineEnd);
     if (text.empty()) return false;
-    const std::int64_t surplus = NumKeyQuestions(rdd) - NumPieces(text, separator);
+    const auto fields = static_cast<std::int64_t>(NumPieces(text, separator));
+    const std::int64_t surplus = NumKeyQuestions(rdd) - fields;
     if (surplus < 0) return fails(kTooManyFields);
 
     TurnOffLast(*rdd.Questions, surplus, TurnOff);
@@ -51,8 +52,8 @@ bool MergeFields(clsHTDRDD& rdd, TextView text, const ImportComplaint& fails) {
 
     Text answers;
     KeyQuestions questions(rdd);
-    Pieces fields(text, separator);
-    while (const auto field = fields.Next()) {
+    Pieces pieces(text, separator);
+    while (const auto field = pieces.Next()) {
         const std::int32_t position = questions.Next();
         if (position == 0) break;
         const auto question = rdd.Questions->Item(position);

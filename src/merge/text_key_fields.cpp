@@ -19,12 +19,6 @@ TextView WithoutTrailing(TextView text, TextView what) noexcept {
     return text;
 }
 
-std::int64_t NumPieces(TextView text, TextView separator) noexcept {
-    std::int64_t number = 0;
-    for (Pieces pieces(text, separator); pieces.Next();) ++number;
-    return number;
-}
-
 std::int64_t NumKeyQuestions(const clsHTDRDD& rdd) {
     const std::int64_t graded =
         rdd.Questions->NumGraded(); // a report may make the host replace the questions

@@ -23,7 +23,6 @@ struct TextKeyField {
 
 /// The text without all that stand at its end.
 [[nodiscard]] TextView WithoutTrailing(TextView text, TextView what) noexcept;
-[[nodiscard]] std::int64_t NumPieces(TextView text, TextView separator) noexcept;
 
 /// Graded questions and subjective ones; one that is both counts twice.
 [[nodiscard]] std::int64_t NumKeyQuestions(const clsHTDRDD& rdd);

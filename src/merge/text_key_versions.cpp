@@ -45,7 +45,7 @@ private:
 
 bool VersionLines::Merge(TextView line) {
     ++lLine_;
-    const std::int64_t fields = NumPieces(line, kTab);
+    const auto fields = static_cast<std::int64_t>(NumPieces(line, kTab));
     if (fields == 0) {
         ++lGaps_;
         return true;

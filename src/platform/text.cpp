@@ -145,8 +145,15 @@ Text Replaced(TextView text, TextView what, TextView with) {
     return out.append(text);
 }
 
+std::size_t NumPieces(TextView text, TextView delimiter) noexcept {
+    std::size_t number = 0;
+    for (Pieces pieces(text, delimiter); pieces.Next();) ++number;
+    return number;
+}
+
 Array<Text> Split(TextView text, TextView delimiter) {
     std::vector<Text> pieces;
+    pieces.reserve(NumPieces(text, delimiter));
     EachPiece(text, delimiter, [&](TextView piece) { pieces.emplace_back(piece); });
     return Array<Text>(std::move(pieces));
 }

@@ -78,6 +78,8 @@ void EachPiece(TextView text, TextView delimiter, Piece piece) {
     while (const auto next = pieces.Next()) piece(*next);
 }
 
+[[nodiscard]] std::size_t NumPieces(TextView text, TextView delimiter) noexcept;
+
 /// The pieces as an array from 0. That of an empty text has no elements, but its bounds can be asked.
 [[nodiscard]] Array<Text> Split(TextView text, TextView delimiter);
 /// The elements in order with the delimiter between them. An array without storage gives an empty text.

@@ -1,11 +1,10 @@
-#include "merge/key_of.h"
+#include "merge/merging_session.h"
 #include "support/cases.h"
-#include "support/session.h"
 
 namespace htdrdd::test {
 namespace {
 
-class GenericKeys : public Session {
+class GenericKeys : public Merging {
 protected:
     /// A definition whose text is edited first, from "what=>with".
     Ref<clsHTDRDD> Made(TextView path, Text text, const Fields& edits) {
@@ -19,13 +18,8 @@ protected:
         EXPECT_TRUE(made->Read(path)) << ::testing::PrintToString(Heard());
         return made;
     }
-    /// Merges: whether that succeeds, the key that is left, and what was said.
     Text Merged(const Ref<clsHTDRDD>& generic, bool bVerbose = true) {
-        const Text before = Told(*rdd);
-        Text told = rdd->MergeGenericKey(generic, bVerbose) ? u"true " : u"false ";
-        told += Told(*rdd) == before ? u"unchanged" : KeyOf(*rdd);
-        for (const std::string& line : Heard()) told.append(u" ! ").append(FromUtf8(line));
-        return told;
+        return AfterMerge([&] { return rdd->MergeGenericKey(generic, bVerbose); });
     }
 
     const Text active_ = FromUtf8(Definition("merge_definition"));

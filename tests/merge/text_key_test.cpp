@@ -1,26 +1,20 @@
-#include "merge/key_of.h"
+#include "merge/merging_session.h"
 #include "merge/text_key_fields.h"
 #include "support/cases.h"
-#include "support/session.h"
 
 #include <random>
 
 namespace htdrdd::test {
 namespace {
 
-class TextKeys : public Session {
+class TextKeys : public Merging {
 protected:
     TextKeys() { ReadAnew(); }
     void ReadAnew() { EXPECT_TRUE(Read(FromUtf8(definition_))); }
 
-    /// Merges a key: whether that succeeds, the key that is left, and what was said.
     Text Merged(TextView key, bool bVerbose = true) {
         files.files[u"/exam.key"] = ToCodePage(key);
-        const Text before = Told(*rdd);
-        Text told = rdd->MergeTextKey(u"/exam.key", bVerbose) ? u"true " : u"false ";
-        told += Told(*rdd) == before ? u"unchanged" : KeyOf(*rdd);
-        for (const std::string& line : Heard()) told.append(u" ! ").append(FromUtf8(line));
-        return told;
+        return AfterMerge([&] { return rdd->MergeTextKey(u"/exam.key", bVerbose); });
     }
     /// The same for the definition as it was read.
     Text MergedAnew(TextView key) {

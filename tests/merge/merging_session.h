@@ -1,6 +1,7 @@
-/// The answer key of a definition as one line.
+/// What a merge makes of a definition, as one line.
 #pragma once
 
+#include "support/session.h"
 #include "support/telling.h"
 
 namespace htdrdd::test {
@@ -37,5 +38,19 @@ inline Text KeyOf(const clsHTDRDD& rdd) {
     });
     return told;
 }
+
+/// The session of a test that merges.
+class Merging : public Session {
+protected:
+    /// Runs `merge`: whether that succeeds, the key that is left, and what was said.
+    template <class Merge>
+    Text AfterMerge(Merge merge) {
+        const Text before = Told(*rdd);
+        Text told = merge() ? u"true " : u"false ";
+        told += Told(*rdd) == before ? u"unchanged" : KeyOf(*rdd);
+        for (const std::string& line : Heard()) told.append(u" ! ").append(FromUtf8(line));
+        return told;
+    }
+};
 
 } // namespace htdrdd::test
