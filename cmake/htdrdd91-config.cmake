@@ -1,5 +1,6 @@
 include(CMakeFindDependencyMacro)
 find_dependency(ICU COMPONENTS uc)
+find_dependency(LibXml2)
 find_dependency(PkgConfig)
 pkg_check_modules(NETTLE REQUIRED IMPORTED_TARGET nettle)
 pkg_check_modules(LIBZIP REQUIRED IMPORTED_TARGET libzip)

@@ -4,9 +4,11 @@
 
 #include "foundation/ErrorHost.h"
 #include "foundation/version.h"
+#include "grade_scales/clsHTDGradeScaleManager.h"
 #include "grade_scales/grade_scale_rules.h"
 #include "model/basPublicAnswers.h"
 #include "model/clsHTDRDD.h"
+#include "scaled_scores/clsHTDScaledScoreManager.h"
 #include "scaled_scores/scaled_score_rules.h"
 #include "validation/key_rules.h"
 #include "validation/subtest_rules.h"

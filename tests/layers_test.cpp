@@ -12,11 +12,13 @@ namespace {
 /// Folder of a path in the sources, or the path itself.
 std::string First(const std::string& path) { return path.substr(0, path.find('/')); }
 
-/// A folder includes itself and the folders in front of it. Those in no layer come behind all others.
+/// A folder includes itself and the folders in front of it. The library of grade scales also knows documents,
+/// and counts as a layer of its own. Those in no layer come behind all others.
 std::size_t Layer(const std::string& path) {
-    return std::string("platform foundation grade_scales scaled_scores model validation definition_file "
-                       "merge component")
-        .find(First(path));
+    const std::string layers = "platform foundation grade_scales scaled_scores model validation "
+                               "definition_file merge grade_scales/clsHTDGradeScaleManager component";
+    const std::size_t own = layers.find(path.substr(0, path.rfind('.')));
+    return own != std::string::npos ? own : layers.find(First(path));
 }
 
 /// Files in a folder, and what a pattern's last group finds in their lines.

@@ -7,12 +7,12 @@
 namespace htdrdd::basTemplate {
 
 bool ScaledScoreKeys::Take(const SectionLines::Pair& pair, Where at) {
-    if (const ScaledScoreRow* row = finder_.Find(pair.key))
-        row->put(*score_, pair.value, at);
-    else if (SameInUpperCase(pair.key, kScaledScoreUnicodeKey))
+    const ScaledScoreRow* const row = finder_.Find(pair.key);
+    if (row == nullptr) return false;
+    if (row->form == ScaledScoreRow::Form::Mark)
         ReadValue(pair.value, unicode_, at);
     else
-        return false;
+        row->put(*score_, pair.value, at);
     return true;
 }
 
@@ -30,8 +30,6 @@ bool VB_RT_read_scaled_score(SectionLines& lines, clsHTDRDDScaledScore& oScaledS
 
 void WriteScaledScoreKeys(TextWriter& out, const clsHTDRDDScaledScore& oScaledScore, Where at) {
     WriteRows(out, kScaledScoreMembers, oScaledScore, at);
-    AppendValue(out.Line().append(kScaledScoreUnicodeKey) += u'=', basPublic::IsUnicodeBuild());
-    out.EndLine(at);
 }
 
 } // namespace htdrdd::basTemplate

@@ -18,8 +18,8 @@ void ReadRows(SectionLines& lines, const std::array<MemberRow<Target, Source>, N
 }
 
 /// Writes a line for each row, where it has one.
-template <class Target, class Source, std::size_t N>
-void WriteRows(TextWriter& out, const std::array<MemberRow<Target, Source>, N>& rows, const Source& source,
+template <class Row, class Source, std::size_t N>
+void WriteRows(TextWriter& out, const std::array<Row, N>& rows, const Source& source,
                Where at = Where::current()) {
     for (const auto& row : rows) {
         if (row.isWritten != nullptr && !row.isWritten(source)) continue;

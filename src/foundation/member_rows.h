@@ -24,8 +24,9 @@ constexpr MemberRow<Target> PlainRow(TextView key) {
             [](Text& line, const Target& source, Where /*at*/) { AppendValue(line, source.*Field); }};
 }
 
-/// Finds rows by their keys, in any case of letters. Keys mostly come in the order of the table.
-template <class Row, std::size_t N>
+/// Finds rows by their keys, in any case of letters as `Same` sees it. Keys mostly come in the order of the
+/// table.
+template <class Row, std::size_t N, bool (*Same)(TextView, TextView) noexcept = SameInUpperCase>
 class RowFinder {
 public:
     explicit RowFinder(const std::array<Row, N>& rows) : rows_(rows) {}
@@ -33,7 +34,7 @@ public:
     [[nodiscard]] const Row* Find(TextView key) {
         for (std::size_t step = 0; step < N; ++step) {
             const std::size_t place = (next_ + step) % N;
-            if (!SameInUpperCase(key, rows_[place].key)) continue;
+            if (!Same(key, rows_[place].key)) continue;
             next_ = (place + 1) % N;
             return &rows_[place];
         }

@@ -16,8 +16,18 @@ struct Literal {
     // NOLINTNEXTLINE(*-avoid-c-arrays, *-explicit-*): literals are arrays
     constexpr Literal(const char16_t (&text)[N]) { std::copy_n(text, N, units.begin()); }
     [[nodiscard]] constexpr TextView View() const { return {units.data(), N - 1}; }
+    constexpr Literal() = default;
     std::array<char16_t, N> units{};
 };
+
+/// Literals one behind the other, as one.
+template <Literal... Parts>
+inline constexpr auto kJoined = [] {
+    Literal<((Parts.View().size()) + ... + 1)> joined;
+    auto end = joined.units.begin();
+    ((end = std::copy_n(Parts.units.begin(), Parts.View().size(), end)), ...);
+    return joined;
+}();
 
 class StoredText {
 public:

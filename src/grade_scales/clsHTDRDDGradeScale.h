@@ -43,6 +43,16 @@ public:
     /// first; the last row's where there is none, and an empty text without rows. A failure, such as negative
     /// places, is reported and gives an empty text.
     [[nodiscard]] Text CalculateGrade(double dPercentScore, std::int16_t iDecimalPlaces = 3) const noexcept;
+
+    /// Writes an exchange file; an existing one is replaced. The scale isn't judged. Whether the file is
+    /// there then. False after a failure, which is reported, such as a text with characters that XML can't
+    /// hold; an existing file is then still what it was.
+    bool Export(TextView sFileName) const noexcept;
+    /// Replaces name and rows by those of an exchange file. Start values become plain numbers with the
+    /// region's decimal mark: 90% is 90, and what is no number 0. False in silence, with nothing changed,
+    /// where the file can't be read or is none of a grade scale. False after a failure, which is reported,
+    /// such as a comment between the rows; the rows in front of it stay.
+    bool Import(TextView sFileName) noexcept;
 };
 
 } // namespace htdrdd

@@ -61,7 +61,7 @@ bool clsHTDRDD::SetError(const Ref<LateBound>& oErr) {
     return static_cast<bool>(oErr);
 }
 
-Text clsHTDRDD::Version() const { return DecimalText(kMajorVersion) + u'.' + DecimalText(kMinorVersion); }
+Text clsHTDRDD::Version() const { return VersionText(); }
 
 bool clsHTDRDD::AddDefaultSubtest() noexcept {
     bool result = false;

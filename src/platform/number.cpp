@@ -126,6 +126,16 @@ std::string SignificantDigits(double value) {
 
 } // namespace
 
+double InRange(double value, Where at) {
+    if (!std::isfinite(value)) throw Failure(Err::Overflow, at);
+    return value;
+}
+
+double Quotient(double dividend, double divisor, Where at) {
+    if (divisor == 0) throw Failure(dividend == 0 ? Err::Overflow : Err::DivisionByZero, at);
+    return InRange(dividend / divisor, at);
+}
+
 double LeadingNumber(TextView text, Where at) {
     if (double value = 0; PlainNumber(text, value)) return value;
 

@@ -33,6 +33,11 @@ namespace htdrdd {
 /// with 5, infinity and NaN with 6.
 [[nodiscard]] Text FixedText(double value, std::int32_t places, Where at = Where::current());
 
+/// A result of arithmetic that has to be a number: infinity and NaN fail with 6.
+[[nodiscard]] double InRange(double value, Where at = Where::current());
+/// Division by 0 fails with 11, that of 0 by 0 with 6.
+[[nodiscard]] double Quotient(double dividend, double divisor, Where at = Where::current());
+
 /// A double as an integer: nearest, ties to the even one. Outside the range of the target, or NaN: failure 6.
 template <class Int>
 [[nodiscard]] Int Rounded(double value, Where at = Where::current()) {

@@ -55,6 +55,24 @@ public:
     /// broken rule, which is shown to the user only if bVerbose is true. A failure is reported and gives
     /// what was found up to then: true, where only the search failed.
     bool IsValid(const Variant& oRDD, bool bForLearningObjective, bool bVerbose = false) const noexcept;
+
+    /// All members but DB->Valid as pairs of a key, "=" and a value, with the delimiter between them. User,
+    /// password and connection string are enciphered. Values aren't protected against the delimiter. After a
+    /// failure, which is reported, the pairs up to then.
+    [[nodiscard]] Text ToString(TextView sDelimiter = u"\t") const noexcept;
+    /// Clears the record and fills it from such pairs, in any order; values lose their outer blanks, and what
+    /// is no pair or has an unknown key is passed over. True where there is no pair at all, too. False after
+    /// a failure, which is reported, with what was filled up to then.
+    bool FromString(TextView sScaledScore, TextView sDelimiter = u"\t") noexcept;
+
+    /// Writes an exchange file with what ToString gives; an existing one is replaced. Whether the file is
+    /// there then. False after a failure, which is reported, such as a text with characters that XML can't
+    /// hold; an existing file is then still what it was.
+    bool Export(TextView sFileName) const noexcept;
+    /// Clears the record and fills it from an exchange file. False in silence, with nothing changed, where
+    /// the file can't be read or is none of a scaled score. False after a failure, which is reported, with
+    /// what was filled up to then.
+    bool Import(TextView sFileName) noexcept;
 };
 
 } // namespace htdrdd

@@ -2,70 +2,97 @@
 #pragma once
 
 #include "foundation/basPublicCipher.h"
+#include "foundation/basPublicText.h"
 #include "foundation/member_rows.h"
 #include "scaled_scores/clsHTDRDDScaledScore.h"
 
 #include <array>
+#include <type_traits>
 
 namespace htdrdd {
 
-using ScaledScoreRow = MemberRow<clsHTDRDDScaledScore>;
+/// A row of the three forms in which scaled scores are written: the section of definition files and the
+/// string form go by the key, exchange files by the attribute.
+struct ScaledScoreRow : MemberRow<clsHTDRDDScaledScore> {
+    enum class Form {
+        Plain,
+        Flag,
+        Enciphered, ///< written so; put takes it as it stands
+        Mark,       ///< of no member: whether enciphered texts are in hexadecimal form
+    };
+    TextView attribute;
+    Form form = Form::Plain;
+};
 
 template <auto Field>
-constexpr ScaledScoreRow OfScore(TextView key) {
-    return PlainRow<clsHTDRDDScaledScore, Field>(key);
+constexpr ScaledScoreRow OfScore(TextView key, TextView attribute) {
+    return {PlainRow<clsHTDRDDScaledScore, Field>(key), attribute};
 }
 template <auto Field>
-constexpr ScaledScoreRow OfDB(TextView key) {
-    return {key,
-            [](clsHTDRDDScaledScore& score, TextView value, Where at) {
-                ReadValue(value, (*score.DB).*Field, at);
-            },
-            [](Text& line, const clsHTDRDDScaledScore& score, Where /*at*/) {
-                AppendValue(line, (*score.DB).*Field);
-            }};
+constexpr ScaledScoreRow OfDB(TextView key, TextView attribute) {
+    constexpr bool isFlag = std::is_same_v<decltype(Field), bool clsHTDRDDScaledScoreDB::*>;
+    return {{key,
+             [](clsHTDRDDScaledScore& score, TextView value, Where at) {
+                 ReadValue(value, (*score.DB).*Field, at);
+             },
+             [](Text& line, const clsHTDRDDScaledScore& score, Where /*at*/) {
+                 AppendValue(line, (*score.DB).*Field);
+             }},
+            attribute,
+            isFlag ? ScaledScoreRow::Form::Flag : ScaledScoreRow::Form::Plain};
 }
-/// Written enciphered. What is read is put in as it stands and deciphered at the end.
 template <auto Field>
-constexpr ScaledScoreRow OfSecret(TextView key) {
-    ScaledScoreRow row = OfDB<Field>(key);
+constexpr ScaledScoreRow OfSecret(TextView key, TextView attribute) {
+    ScaledScoreRow row = OfDB<Field>(key, attribute);
+    row.form = ScaledScoreRow::Form::Enciphered;
     row.append = [](Text& line, const clsHTDRDDScaledScore& score, Where /*at*/) {
         line += basPublic::Encrypt((*score.DB).*Field);
     };
     return row;
 }
+constexpr ScaledScoreRow OfMark(TextView key, TextView attribute) {
+    return {{key, [](clsHTDRDDScaledScore& /*score*/, TextView /*value*/, Where /*at*/) {},
+             [](Text& line, const clsHTDRDDScaledScore& /*score*/, Where /*at*/) {
+                 AppendValue(line, basPublic::IsUnicodeBuild());
+             }},
+            attribute,
+            ScaledScoreRow::Form::Mark};
+}
 
 /// In the order of writing.
-inline constexpr std::array kScaledScoreMembers{
-    OfScore<&clsHTDRDDScaledScore::ScaledScoreName>(u"ScaledScoreName"),
-    OfScore<&clsHTDRDDScaledScore::ScaledScoreCriteriaPrimary>(u"ScaledScoreCriteriaPrimary"),
-    OfScore<&clsHTDRDDScaledScore::ScaledScoreCriteriaSecondary>(u"ScaledScoreCriteriaSecondary"),
-    OfScore<&clsHTDRDDScaledScore::ScaledScoreValues>(u"ScaledScoreValues"),
-    OfScore<&clsHTDRDDScaledScore::LearningObjectivePrimary>(u"ScaledScoreLearningObjectivePrimary"),
-    OfScore<&clsHTDRDDScaledScore::LearningObjectiveSecondary>(u"ScaledScoreLearningObjectiveSecondary"),
-    OfScore<&clsHTDRDDScaledScore::Precision>(u"ScaledScorePrecision"),
-    OfDB<&clsHTDRDDScaledScoreDB::Name>(u"ScaledScoreDBName"),
-    OfDB<&clsHTDRDDScaledScoreDB::Catalog>(u"ScaledScoreDBCatalog"),
-    OfDB<&clsHTDRDDScaledScoreDB::Table>(u"ScaledScoreDBTable"),
-    OfDB<&clsHTDRDDScaledScoreDB::MinFieldPrimary>(u"ScaledScoreDBMinFieldPrimary"),
-    OfDB<&clsHTDRDDScaledScoreDB::MaxFieldPrimary>(u"ScaledScoreDBMaxFieldPrimary"),
-    OfDB<&clsHTDRDDScaledScoreDB::MinFieldSecondary>(u"ScaledScoreDBMinFieldSecondary"),
-    OfDB<&clsHTDRDDScaledScoreDB::MaxFieldSecondary>(u"ScaledScoreDBMaxFieldSecondary"),
-    OfDB<&clsHTDRDDScaledScoreDB::ScoreField>(u"ScaledScoreDBScoreField"),
-    OfDB<&clsHTDRDDScaledScoreDB::ScoreGrade>(u"ScaledScoreDBScoreGrade"),
-    OfDB<&clsHTDRDDScaledScoreDB::DBType>(u"ScaledScoreDBType"),
-    OfDB<&clsHTDRDDScaledScoreDB::DSNBased>(u"ScaledScoreDBDSNBased"),
-    OfDB<&clsHTDRDDScaledScoreDB::DirectoryBased>(u"ScaledScoreDBDirectoryBased"),
-    OfDB<&clsHTDRDDScaledScoreDB::DSNName>(u"ScaledScoreDBDSNName"),
-    OfSecret<&clsHTDRDDScaledScoreDB::User>(u"ScaledScoreDBUser"),
-    OfSecret<&clsHTDRDDScaledScoreDB::Password>(u"ScaledScoreDBPassword"),
-    OfSecret<&clsHTDRDDScaledScoreDB::Connect>(u"ScaledScoreDBConnect"),
-};
-static_assert(kScaledScoreMembers.size() == 23);
-
-/// Tells whether the enciphered texts are in hexadecimal form. It belongs to no member and stands behind
-/// them.
-inline constexpr TextView kScaledScoreUnicodeKey = u"ScaledScoreDBUnicode";
+inline constexpr auto kScaledScoreMembers = [] {
+    using Score = clsHTDRDDScaledScore;
+    using DB = clsHTDRDDScaledScoreDB;
+    return std::array{
+        OfScore<&Score::ScaledScoreName>(u"ScaledScoreName", u"Name"),
+        OfScore<&Score::ScaledScoreCriteriaPrimary>(u"ScaledScoreCriteriaPrimary", u"CriteriaPrimary"),
+        OfScore<&Score::ScaledScoreCriteriaSecondary>(u"ScaledScoreCriteriaSecondary", u"CriteriaSecondary"),
+        OfScore<&Score::ScaledScoreValues>(u"ScaledScoreValues", u"ValueType"),
+        OfScore<&Score::LearningObjectivePrimary>(u"ScaledScoreLearningObjectivePrimary",
+                                                  u"LearningObjectivePrimary"),
+        OfScore<&Score::LearningObjectiveSecondary>(u"ScaledScoreLearningObjectiveSecondary",
+                                                    u"LearningObjectiveSecondary"),
+        OfScore<&Score::Precision>(u"ScaledScorePrecision", u"Precision"),
+        OfDB<&DB::Name>(u"ScaledScoreDBName", u"DB.Name"),
+        OfDB<&DB::Catalog>(u"ScaledScoreDBCatalog", u"DB.Catalog"),
+        OfDB<&DB::Table>(u"ScaledScoreDBTable", u"DB.Table"),
+        OfDB<&DB::MinFieldPrimary>(u"ScaledScoreDBMinFieldPrimary", u"DB.MinFieldPrimary"),
+        OfDB<&DB::MaxFieldPrimary>(u"ScaledScoreDBMaxFieldPrimary", u"DB.MaxFieldPrimary"),
+        OfDB<&DB::MinFieldSecondary>(u"ScaledScoreDBMinFieldSecondary", u"DB.MinFieldSecondary"),
+        OfDB<&DB::MaxFieldSecondary>(u"ScaledScoreDBMaxFieldSecondary", u"DB.MaxFieldSecondary"),
+        OfDB<&DB::ScoreField>(u"ScaledScoreDBScoreField", u"DB.ScoreField"),
+        OfDB<&DB::ScoreGrade>(u"ScaledScoreDBScoreGrade", u"DB.ScoreGrade"),
+        OfDB<&DB::DBType>(u"ScaledScoreDBType", u"DB.DBType"),
+        OfDB<&DB::DSNBased>(u"ScaledScoreDBDSNBased", u"DB.DSNBased"),
+        OfDB<&DB::DirectoryBased>(u"ScaledScoreDBDirectoryBased", u"DB.DirectoryBased"),
+        OfDB<&DB::DSNName>(u"ScaledScoreDBDSNName", u"DB.DSNName"),
+        OfSecret<&DB::User>(u"ScaledScoreDBUser", u"DB.User"),
+        OfSecret<&DB::Password>(u"ScaledScoreDBPassword", u"DB.Password"),
+        OfSecret<&DB::Connect>(u"ScaledScoreDBConnect", u"DB.Connect"),
+        OfMark(u"ScaledScoreDBUnicode", u"DB.Unicode"),
+    };
+}();
+static_assert(kScaledScoreMembers.size() == 24);
 
 /// Deciphers Connect, User and Password, in that order, where they aren't empty. A text that isn't enciphered
 /// is reported and becomes empty. Fails with 91 without a DB.

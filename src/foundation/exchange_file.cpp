@@ -1,0 +1,51 @@
+#include "foundation/exchange_file.h"
+
+#include "foundation/basPublicFiles.h"
+#include "foundation/temporary.h"
+#include "foundation/version.h"
+#include "platform/file_system.h"
+
+#include <limits>
+
+namespace htdrdd {
+namespace {
+
+constexpr TextView kRoot = u"HaldenTallyDesk";
+constexpr TextView kFileType = u"FileType";
+
+/// The document of a file; not open where the file can't be read.
+std::unique_ptr<const XmlReader> Loaded(TextView sFileName) {
+    Bytes bytes;
+    try {
+        bytes = CurrentFileSystem().Read(sFileName);
+    } catch (const Failure&) { // no file, or none for us
+    }
+    return std::make_unique<const XmlReader>(bytes.View());
+}
+
+} // namespace
+
+ExchangeWriter::ExchangeWriter(TextView sFileType) {
+    xml_.Begin(kRoot);
+    xml_.Attribute(kFileType, sFileType);
+    xml_.Attribute(u"Version", VersionText());
+    xml_.Begin(sFileType);
+}
+
+bool ExchangeWriter::Save(TextView sFileName, Where at) {
+    FileSystem& files = CurrentFileSystem();
+    const Temporary temporary(basPublic::GetUniqueFileName({}, {}, {}));
+    const auto file = files.Create(temporary.Path(), at);
+    file->Write(xml_.Finish(), at);
+    file->Close(at);
+    files.CopyFile(temporary.Path(), files.Resolved(sFileName), {}, at);
+    return files.FileExists(sFileName);
+}
+
+ExchangeReader::ExchangeReader(TextView sFileName, TextView sFileType) : xml_(Loaded(sFileName)) {
+    const XmlNode root = xml_->Root(kRoot);
+    const auto type = root.Attribute(kFileType);
+    if (type && SameText(*type, sFileType)) content_ = root.Child(sFileType);
+}
+
+} // namespace htdrdd
