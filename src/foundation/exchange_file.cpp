@@ -1,11 +1,8 @@
 #include "foundation/exchange_file.h"
 
-#include "foundation/basPublicFiles.h"
-#include "foundation/temporary.h"
 #include "foundation/version.h"
+#include "foundation/whole_file.h"
 #include "platform/file_system.h"
-
-#include <limits>
 
 namespace htdrdd {
 namespace {
@@ -33,13 +30,8 @@ ExchangeWriter::ExchangeWriter(TextView sFileType) {
 }
 
 bool ExchangeWriter::Save(TextView sFileName, Where at) {
-    FileSystem& files = CurrentFileSystem();
-    const Temporary temporary(basPublic::GetUniqueFileName({}, {}, {}));
-    const auto file = files.Create(temporary.Path(), at);
-    file->Write(xml_.Finish(), at);
-    file->Close(at);
-    files.CopyFile(temporary.Path(), files.Resolved(sFileName), {}, at);
-    return files.FileExists(sFileName);
+    WriteWholeFile(sFileName, xml_.Finish(), at);
+    return CurrentFileSystem().FileExists(sFileName);
 }
 
 ExchangeReader::ExchangeReader(TextView sFileName, TextView sFileType) : xml_(Loaded(sFileName)) {
