@@ -1,0 +1,149 @@
+#include "grade_scales/clsHTDGradeScaleManager.h"
+#include "scaled_scores/clsHTDScaledScoreManager.h"
+#include "scaled_scores/scaled_score_members.h"
+#include "support/cases.h"
+#include "support/random_definition.h"
+#include "support/session.h"
+#include "support/telling.h"
+
+#include <algorithm>
+
+namespace htdrdd::test {
+namespace {
+
+/// Sends scales and scaled scores made at random through each of their forms and compares what comes back,
+/// less what the form is known to lose.
+class FormsRoundTrip : public Session {
+protected:
+    /// Runs a check on 10,000 learning objectives, in either region.
+    template <class Check>
+    void Each(Check check) {
+        std::int32_t left = 10'000;
+        for (std::uint64_t seed = 1; left > 0 && !HasFailure(); ++seed) {
+            SCOPED_TRACE(seed);
+            ThisThread().region = seed % 3 == 0 ? CommaRegion() : Region();
+            const auto made = RandomDefinition(seed).Made();
+            test::Each(*made->Subtests, [&](auto& subtest) { check(subtest, seed); });
+            left -= made->Subtests->Count();
+        }
+    }
+    /// XML holds no NUL and no unpaired surrogate, and of the other texts that are made here all.
+    static Text FitForXml(TextView text) {
+        return FromUtf8(ToUtf8(Replaced(text, TextView(u"\0", 1), u"\uFFFD")));
+    }
+    /// Exports a record, of which it is known whether its texts fit.
+    template <class Record>
+    void Export(const Record& record, bool fits) {
+        EXPECT_EQ(record.Export(u"/file.xml"), fits);
+        EXPECT_EQ(Heard(), fits ? Said() : Said{kArgument + ToUtf8(record.ClassName()) + ".Export"});
+    }
+    /// Changes the texts of a scaled score, and those of its numbers, as they stand outside of ciphers.
+    template <class Change>
+    static void EachText(clsHTDRDDScaledScore& score, Change change) {
+        for (const ScaledScoreRow& row : kScaledScoreMembers) {
+            Text value;
+            row.append(value, score, Where::current());
+            if (row.form == ScaledScoreRow::Form::Plain) row.put(score, change(value), Where::current());
+        }
+    }
+    /// The rows of a scale with start values as a form leaves them.
+    template <class Written>
+    static Ref<clsHTDRDDGradeScale> Expected(const clsHTDRDDGradeScale& scale, Written written) {
+        const auto expected = scale.Copy();
+        test::Each(*expected, [&](auto& row) { row.StartValue = written(LeadingNumber(row.StartValue)); });
+        return expected;
+    }
+};
+
+/// Start values become plain numbers. A tab in a name or a grade, a vertical tab and a scale without a name
+/// and without rows are lost.
+TEST_F(FormsRoundTrip, OfGradeScaleLibraries) {
+    Each([](const clsHTDRDDSubtest& subtest, std::uint64_t /*seed*/) {
+        clsHTDRDDGradeScale& scale = *subtest.GradeScale;
+        scale.ScaleName = Replaced(scale.ScaleName, u"\t", u"\u2003");
+        const auto library = Make<clsHTDGradeScaleManager>();
+        Text key = u"any";
+        if (scale.Count() == 0) scale.ScaleName += u".";
+        library->Add(key, subtest.GradeScale);
+        library->Add(key = u"other", subtest.GradeScale);
+        const Text saved = library->SaveToString();
+        EXPECT_TRUE(library->LoadFromString(saved));
+        EXPECT_EQ(library->Count(), 1) << "two of the same name";
+        const auto item = library->Item(Trimmed(scale.ScaleName));
+        ASSERT_TRUE(item);
+        EXPECT_EQ(Told(*item), Told(*Expected(scale, InvariantText)));
+        EXPECT_EQ(library->SaveToString() + u"\v" + library->SaveToString(), saved);
+    });
+}
+
+/// The name isn't there, start values become plain numbers. A tab or a line end in a grade, and a scale
+/// without rows are lost.
+TEST_F(FormsRoundTrip, OfClips) {
+    Each([](const clsHTDRDDSubtest& subtest, std::uint64_t seed) {
+        const clsHTDRDDGradeScale& scale = *subtest.GradeScale;
+        const auto library = Make<clsHTDGradeScaleManager>();
+        const Text clip = library->ScaleToClip(subtest.GradeScale);
+        const auto back = library->ClipToScale(scale.ScaleName, clip + (seed % 2 == 0 ? u"\r\n" : u""));
+        if (scale.Count() == 0 && seed % 2 != 0) {
+            EXPECT_FALSE(back);
+            return;
+        }
+        EXPECT_EQ(Told(*back), Told(*Expected(scale, InvariantText)));
+        EXPECT_EQ(library->ScaleToClip(back), clip);
+    });
+}
+
+/// Start values become plain numbers of the region.
+TEST_F(FormsRoundTrip, OfGradeScaleExchangeFiles) {
+    Each([this](const clsHTDRDDSubtest& subtest, std::uint64_t /*seed*/) {
+        clsHTDRDDGradeScale& scale = *subtest.GradeScale;
+        bool fits = true;
+        const auto make = [&](Text& text) { fits &= std::exchange(text, FitForXml(text)) == text; };
+        const auto before = scale.Copy();
+        make(scale.ScaleName);
+        test::Each(scale, [&](auto& row) { make(row.Grade); });
+        Export(*before, fits);
+        Export(scale, true);
+        const auto back = Make<clsHTDRDDGradeScale>();
+        EXPECT_TRUE(back->Import(u"/file.xml"));
+        EXPECT_EQ(Told(*back), Told(*Expected(scale, RegionalText)));
+    });
+}
+
+/// DB->Valid isn't there; texts lose their outer blanks. A text with the delimiter in it is lost.
+TEST_F(FormsRoundTrip, OfScaledScoreTextsAndLibraries) {
+    Each([](const clsHTDRDDSubtest& subtest, std::uint64_t seed) {
+        const clsHTDRDDScaledScore& score = *subtest.ScaledScore;
+        EachText(*subtest.ScaledScore, [](TextView text) { return Replaced(text, u"\t", u"\u2003"); });
+        const auto expected = score.Copy();
+        EachText(*expected, Trimmed);
+        expected->DB->Valid = true;
+        const TextView delimiter = seed % 2 == 0 ? u"\t" : u"; ;";
+        const auto back = Make<clsHTDRDDScaledScore>();
+        EXPECT_TRUE(back->FromString(score.ToString(delimiter), delimiter));
+        EXPECT_EQ(Told(*back), Told(*expected));
+        const auto library = Make<clsHTDScaledScoreManager>();
+        Text key;
+        library->Add(key, subtest.ScaledScore);
+        EXPECT_TRUE(library->LoadFromString(library->SaveToString()));
+        EXPECT_EQ(Told(*library->Item(expected->ScaledScoreName)), Told(*expected));
+    });
+}
+
+/// DB->Valid isn't there.
+TEST_F(FormsRoundTrip, OfScaledScoreExchangeFiles) {
+    Each([this](const clsHTDRDDSubtest& subtest, std::uint64_t /*seed*/) {
+        const clsHTDRDDScaledScore& score = *subtest.ScaledScore;
+        const auto expected = score.Copy();
+        EachText(*expected, FitForXml);
+        Export(score, Told(*expected) == Told(score));
+        Export(*expected, true);
+        expected->DB->Valid = true;
+        const auto back = Make<clsHTDRDDScaledScore>();
+        EXPECT_TRUE(back->Import(u"/file.xml"));
+        EXPECT_EQ(Told(*back), Told(*expected));
+    });
+}
+
+} // namespace
+} // namespace htdrdd::test

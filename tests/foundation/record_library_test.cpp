@@ -1,0 +1,122 @@
+#include "grade_scales/clsHTDGradeScaleManager.h"
+#include "scaled_scores/clsHTDScaledScoreManager.h"
+#include "support/cases.h"
+#include "support/session.h"
+
+namespace htdrdd::test {
+namespace {
+
+/// Both libraries, driven by rows of operations.
+class RecordLibraries : public Session {
+protected:
+    static Ref<clsHTDRDDGradeScale> RecordOf(const clsHTDGradeScaleManager& library, TextView text) {
+        const std::size_t end = text.find(u' '); // "Name 90%=A", or a name alone
+        auto scale = library.ClipToScale(text.substr(0, end), u"\r\n");
+        if (end == TextView::npos) return scale;
+        const Array<Text> row = Split(text.substr(end + 1), u"=");
+        scale->AddArrays(Array<Text>({row.At(1)}), Array<Text>({row.At(0)}));
+        return scale;
+    }
+    static Ref<clsHTDRDDScaledScore> RecordOf(const clsHTDScaledScoreManager& /*library*/, TextView text) {
+        auto score = Make<clsHTDRDDScaledScore>();
+        score->ScaledScoreName = text;
+        score->DB->Valid = false;
+        return score;
+    }
+    static Text Told(const clsHTDRDDGradeScale& scale) {
+        return scale.ScaleName + u" " + scale.AsString(true, u"|") + u"=" + scale.AsString(false, u"|");
+    }
+    static Text Told(const clsHTDRDDScaledScore& score) {
+        return score.ScaledScoreName + (score.DB->Valid ? u" valid " : u" ") +
+               DecimalText(score.ScaledScoreCriteriaPrimary);
+    }
+
+    /// What an operation gives. Keys and texts of records are in front of and behind ":".
+    template <class Library>
+    Text Done(Library& library, TextView operation, TextView argument) {
+        const std::size_t colon = argument.find(u':');
+        Text key(argument.substr(0, colon));
+        const Text text(colon == TextView::npos ? u"" : argument.substr(colon + 1));
+        const Variant variant = key == u"5" ? Variant(5) : Variant(key);
+        const auto truth = [](bool value) { return Text(value ? u"true" : u"false"); };
+        if (operation == u"add") {
+            library.Add(key, text == u"none" ? nullptr : RecordOf(library, text));
+            return key;
+        }
+        if (operation == u"exists") return truth(library.Exists(variant));
+        if (operation == u"load") return truth(library.LoadFromString(argument));
+        if (operation == u"save") return library.SaveToString();
+        if (operation == u"remove") library.Remove(key);
+        if (operation == u"rename") library.Key(variant, text == u"5" ? Variant(5) : Variant(text));
+        if (operation == u"reset") library.Reset();
+        if (operation == u"item") {
+            const auto record = library.Item(variant);
+            return record ? Told(*record) : u"none";
+        }
+        if (operation != u"keys") return u"";
+        Text keys = DecimalText(library.Count());
+        const Array<Variant> all = library.Keys();
+        for (std::int32_t l = all.LowerBound(); l <= all.UpperBound(); ++l) keys += u" " + all.At(l).ToText();
+        return keys;
+    }
+
+    /// Rows of operations and what they give, with "!" for each event and the number and member of each
+    /// complaint.
+    template <class Library>
+    void CheckLibrary(const std::string& words) {
+        CheckWords(words, [this](const Fields& row) {
+            const auto library = Make<Library>();
+            Text all;
+            Text events;
+            library->Reload.Connect([&] { events += u"!"; });
+            EachPiece(row[0], u" | ", [&](TextView piece) {
+                const std::size_t end = std::min(piece.find(u' '), piece.size());
+                const Text given =
+                    Done(*library, piece.substr(0, end), piece.substr(std::min(end + 1, piece.size())));
+                if (!all.empty()) all += u", ";
+                all += given + std::exchange(events, {});
+                for (const std::string& line : Heard())
+                    all += u"[" + FromUtf8(line.substr(0, line.find(' '))) +
+                           FromUtf8(line.substr(line.rfind('.'))) + u"]";
+            });
+            return all;
+        });
+    }
+};
+
+TEST_F(RecordLibraries, OfGradeScalesKeepTextsUnderKeys) {
+    CheckLibrary<clsHTDGradeScaleManager>("grade_scale_library");
+}
+
+TEST_F(RecordLibraries, OfScaledScoresKeepTextsUnderKeys) {
+    CheckLibrary<clsHTDScaledScoreManager>("scaled_score_library");
+}
+
+TEST_F(RecordLibraries, GiveAFreshRecordEachTime) {
+    const auto library = Make<clsHTDGradeScaleManager>();
+    EXPECT_TRUE(library->LoadFromString(u"Pass\t50&P"));
+    library->Item(u"Pass")->Item(1)->Grade = u"changed";
+    EXPECT_EQ(library->Item(u"Pass")->AsString(), u"P");
+}
+
+TEST_F(RecordLibraries, HandlersMayDoAsTheyLike) {
+    auto library = Make<clsHTDGradeScaleManager>();
+    Text saved = u"first of all\t90&A\v" + Text(1000, u'x') + u"\t0&F";
+    std::int32_t events = 0;
+    const auto saves =
+        library->Reload.Connect([&] { saved = library->SaveToString() + Text(events++, u'.'); });
+    EXPECT_TRUE(library->LoadFromString(saved));
+    EXPECT_EQ(library->Count() + events, 4);
+    library->Reload.Disconnect(saves);
+    library->Reload.Connect([&] {
+        if (library->Count() < 5) library->Add(saved, library->Item(u"first of all"));
+        library->Reset();
+        library = nullptr;
+    });
+    Text key = u" new ";
+    library->Add(key, Make<clsHTDRDDGradeScale>());
+    EXPECT_FALSE(library);
+}
+
+} // namespace
+} // namespace htdrdd::test
