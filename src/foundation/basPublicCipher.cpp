@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <string>
 
 namespace htdrdd::basPublic {
@@ -17,6 +18,16 @@ std::string CipherKey() {
     for (const int step : {23, 41, 8, 67, 19, 52, 77, 30, 5, 61, 44, 12, 70, 36, 58, 27})
         key += static_cast<char>('!' + (step * 31 + static_cast<int>(key.size()) * 17) % 90);
     return key;
+}
+
+/// The cipher with its key, or a null pointer where the key can't be used. It is kept, since making it ready
+/// takes as long as enciphering a page of text.
+const BlockCipher* Cipher() {
+    static const std::unique_ptr<const BlockCipher> cipher = [] {
+        auto made = std::make_unique<BlockCipher>();
+        return made->SetKey(CipherKey()) ? std::move(made) : nullptr;
+    }();
+    return cipher.get();
 }
 
 void AppendHex(Text& hex, unsigned char byte) {
@@ -63,12 +74,12 @@ Text Encrypt(TextView sText) noexcept {
     Text result;
     try {
         if (sText.empty()) return result;
-        BlockCipher cipher;
-        if (!cipher.SetKey(CipherKey())) return result;
+        const BlockCipher* const cipher = Cipher();
+        if (cipher == nullptr) return result;
         Text plain = IsUnicodeBuild() ? UnicodeToHex(sText) : Text(sText);
         plain.resize((plain.size() + BlockCipher::kBlock - 1) / BlockCipher::kBlock * BlockCipher::kBlock,
                      u' ');
-        result = CipherEncrypt(cipher, plain);
+        result = CipherEncrypt(*cipher, plain);
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.Encrypt"); }
     return result;
 }
@@ -77,9 +88,9 @@ Text Decrypt(TextView sText) noexcept {
     Text result;
     try {
         if (sText.empty()) return result;
-        BlockCipher cipher;
-        if (!cipher.SetKey(CipherKey())) return result;
-        result = TrimmedEnd(CipherDecrypt(cipher, sText));
+        const BlockCipher* const cipher = Cipher();
+        if (cipher == nullptr) return result;
+        result = TrimmedEnd(CipherDecrypt(*cipher, sText));
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.Decrypt"); }
     return result;
 }

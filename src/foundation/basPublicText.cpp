@@ -41,6 +41,10 @@ double TextToDouble(TextView sValue) noexcept {
     double result = 0;
     IgnoreFailure([&] {
         if (sValue.ends_with(u'%')) sValue.remove_suffix(1);
+        if (const auto plain = PlainNumber(sValue)) {
+            result = *plain;
+            return;
+        }
         const auto mayBeNumber = [](char16_t unit) { return (unit >= u'0' && unit <= u'9') || unit == u'&'; };
         if (std::none_of(sValue.begin(), sValue.end(), mayBeNumber)) return; // a failure costs far more
         try {

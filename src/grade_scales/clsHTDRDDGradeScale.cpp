@@ -52,12 +52,11 @@ Text clsHTDRDDGradeScale::CalculateGrade(double dPercentScore, std::int16_t iDec
     try {
         if (iDecimalPlaces < 0) throw Failure(Err::Argument, Where::current());
         if (Count() == 0) return result;
-        // Through a text and back, so that the score is the very number that a start value of its digits is.
-        const double score = basPublic::TextToDouble(FixedText(dPercentScore, iDecimalPlaces));
-        const std::int32_t row = FirstPosition([score](const clsHTDRDDGradeScaleItem& item) {
-            return basPublic::TextToDouble(item.StartValue) <= score;
-        });
-        result = mItems.Item(row > 0 ? row : Count())->Grade;
+        // The very number that a start value of the rounded score's digits is.
+        const double score = FixedNumber(dPercentScore, iDecimalPlaces);
+        for (const auto& row : mItems)
+            if (basPublic::TextToDouble(row->StartValue) <= score) return row->Grade;
+        result = mItems.Item(Count())->Grade;
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDGradeScale.CalculateGrade"); }
     return result;
 }

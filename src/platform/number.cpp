@@ -10,6 +10,10 @@
 namespace htdrdd {
 namespace {
 
+constexpr std::size_t kExactDigits = 15; ///< whole numbers of so many are doubles
+constexpr std::array<double, kExactDigits + 1> kTens{1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                     1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
 constexpr bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 constexpr bool IsExponentMark(char16_t c) { return c == u'e' || c == u'E' || c == u'd' || c == u'D'; }
 constexpr bool IsSkipped(char16_t c) { return c == u' ' || c == u'\t' || c == u'\n'; }
@@ -79,37 +83,6 @@ unsigned BaseOf(char16_t letter) {
     }
 }
 
-/// The common case, a sign, some digits and perhaps a point, straight to the double: both numbers of the
-/// division are exact, so its result is the nearest double. False where the text is anything else.
-bool PlainNumber(TextView text, double& value) {
-    constexpr std::array<double, 16> kTens{1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                           1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    std::size_t i = 0;
-    const bool negative = !text.empty() && text[0] == u'-';
-    if (negative) ++i;
-    if (text.size() - i == 0 || text.size() - i > 16) return false;
-    std::uint64_t digits = 0;
-    std::size_t places = 0;
-    std::size_t count = 0;
-    bool point = false;
-    for (; i < text.size(); ++i) {
-        const char16_t c = text[i];
-        if (IsDigit(c)) {
-            digits = digits * 10 + static_cast<unsigned>(c - u'0');
-            ++count;
-            if (point) ++places;
-        } else if (c == u'.' && !point) {
-            point = true;
-        } else {
-            return false;
-        }
-    }
-    if (count > 15) return false;
-    value = static_cast<double>(digits) / kTens[places];
-    if (negative && digits != 0) value = -value;
-    return true;
-}
-
 /// At most 15 significant digits with "." and with the zero in front of it.
 std::string SignificantDigits(double value) {
     std::array<char, 32> buffer{};
@@ -136,8 +109,33 @@ double Quotient(double dividend, double divisor, Where at) {
     return InRange(dividend / divisor, at);
 }
 
+// Straight to the double: both numbers of the division are exact, so its result is the nearest double.
+std::optional<double> PlainNumber(TextView text) noexcept {
+    const bool negative = !text.empty() && text[0] == u'-';
+    if (negative) text.remove_prefix(1);
+    if (text.empty() || text.size() > kExactDigits + 1) return {};
+    std::uint64_t digits = 0;
+    std::size_t count = 0;
+    std::size_t places = 0;
+    bool point = false;
+    for (const char16_t c : text) {
+        if (IsDigit(c)) {
+            digits = digits * 10 + static_cast<unsigned>(c - u'0');
+            ++count;
+            if (point) ++places;
+        } else if (c == u'.' && !point) {
+            point = true;
+        } else {
+            return {};
+        }
+    }
+    if (count > kExactDigits) return {};
+    const double value = static_cast<double>(digits) / kTens[places];
+    return negative && digits != 0 ? -value : value;
+}
+
 double LeadingNumber(TextView text, Where at) {
-    if (double value = 0; PlainNumber(text, value)) return value;
+    if (const auto plain = PlainNumber(text)) return *plain;
 
     std::string kept;
     std::size_t complete = 0; // how much of `kept` is a number, without an exponent that has no digits
@@ -312,6 +310,25 @@ Text FixedText(double value, std::int32_t places, Where at) {
     text.insert(static_cast<std::size_t>(whole), 1, CurrentRegion().decimalMark);
     if (value < 0 && digits.find_first_not_of('0') != std::string::npos) text.insert(0, 1, u'-');
     return text;
+}
+
+double FixedNumber(double value, std::int32_t places, Where at) {
+    constexpr std::int32_t kMostPlaces = 6;
+    constexpr double kMostUnits = 1e9;
+    constexpr double kNearTie = 1e-5; // more than 15 digits and the multiplication can move so many units
+    if (places >= 0 && places <= kMostPlaces) {
+        const double one = kTens[static_cast<std::size_t>(places)];
+        const double units = std::fabs(value) * one;
+        const double whole = std::floor(units);
+        const double part = units - whole;
+        if (units < kMostUnits && std::fabs(part - .5) > kNearTie) {
+            const double fixed = (part < .5 ? whole : whole + 1) / one;
+            return value < 0 && fixed != 0 ? -fixed : fixed;
+        }
+    }
+    Text text = FixedText(value, places, at);
+    std::replace(text.begin(), text.end(), CurrentRegion().decimalMark, u'.');
+    return LeadingNumber(text, at);
 }
 
 } // namespace htdrdd

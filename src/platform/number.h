@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 
 namespace htdrdd {
 
@@ -16,6 +17,10 @@ namespace htdrdd {
 /// hexadecimal digits (16 bits) are signed 16-bit, up to eight (32 bits) signed 32-bit. Fails with 6 outside
 /// a double's range and for more than 32 bits.
 [[nodiscard]] double LeadingNumber(TextView text, Where at = Where::current());
+
+/// The number of a text that is nothing but a sign "-", up to 15 digits and at most one ".": what every rule
+/// reads the same wherever the decimal mark is a point. Nothing for any other text.
+[[nodiscard]] std::optional<double> PlainNumber(TextView text) noexcept;
 
 /// The whole text as a number by the rules of the current region: outer blanks, a sign before or behind,
 /// parentheses for a negative number, the currency sign, group marks in front of the decimal mark, exponent
@@ -32,6 +37,8 @@ namespace htdrdd {
 /// half away from zero on the number's 15-digit decimal form, so that 1.005 gives 1.01. Negative places fail
 /// with 5, infinity and NaN with 6.
 [[nodiscard]] Text FixedText(double value, std::int32_t places, Where at = Where::current());
+/// The number that such a text shows. Fails as FixedText does.
+[[nodiscard]] double FixedNumber(double value, std::int32_t places, Where at = Where::current());
 
 /// A result of arithmetic that has to be a number: infinity and NaN fail with 6.
 [[nodiscard]] double InRange(double value, Where at = Where::current());

@@ -1,3 +1,4 @@
+#include "foundation/basPublicText.h"
 #include "support/cases.h"
 
 #include <bit>
@@ -42,7 +43,10 @@ TEST(Numbers, AreWrittenWithFifteenDigitsAtMost) {
 TEST(Numbers, WithFixedPlacesAreRoundedHalfAwayFromZero) {
     const ScopedRegion region(CommaRegion());
     CheckWords("fixed_places", [](const Fields& row) {
-        return FixedText(LeadingNumber(row[0]), Rounded<std::int32_t>(LeadingNumber(row[1])));
+        const double value = LeadingNumber(row[0]);
+        const auto places = Rounded<std::int32_t>(LeadingNumber(row[1]));
+        EXPECT_EQ(FixedNumber(value, places), basPublic::TextToDouble(FixedText(value, places)));
+        return FixedText(value, places);
     });
     EXPECT_EQ(FailureOf([] { return FixedText(1, -1); }), 5);
     EXPECT_EQ(FailureOf([] { return FixedText(std::numeric_limits<double>::infinity(), 3); }), 6);
