@@ -38,7 +38,7 @@ private:
 class XmlReader {
 public:
     /// Isn't open afterwards where the bytes are no well-formed document, or one with a document type: those
-    /// can name other files and grow without end. Elements may be 255 deep.
+    /// can name other files and grow without end. Elements nested beyond some 250 aren't read either.
     explicit XmlReader(std::string_view bytes);
     XmlReader(const XmlReader&) = delete;
     XmlReader& operator=(const XmlReader&) = delete;
