@@ -26,8 +26,8 @@ class RecordLibrary : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept final { return Class.View(); }
 
-    Event
-        Reload; ///< raised by Add and Remove after a change: what a host shows of the library is out of date
+    /// Raised by Add and Remove after a change: what a host shows of the library is out of date.
+    Event Reload;
 
     /// Takes the outer blanks off the caller's key and stores the record under it. A key that is in use
     /// changes nothing.
@@ -61,7 +61,6 @@ public:
     /// Empties the library without an event.
     void Reset() noexcept {
         try {
-            mRecords = nullptr;
             mRecords = Make<Dictionary>();
         } catch (...) { ReportFailure(kLocation<u"Reset">); }
     }

@@ -57,9 +57,8 @@ public:
     ///   deleted, or where its text is single-byte kept under its name with ".old" behind it.
     /// - The document takes its grade scale and its scaled score over from learning objective 1, if that one
     ///   has any, whatever comes of the save.
-    /// - This is meant: an archived save, and one that fails, leaves the text in the temporary folder,
-    /// readable
-    ///   by its owner only.
+    /// - This is meant: an archived save, and one that fails, leaves the text in the temporary folder for its
+    ///   owner only.
     bool Save(TextView sRDDFile, bool bEncrypt = true, bool bVerbose = true);
 
     /// Registers the host object of this thread, for all definitions, until another takes its place; an empty
