@@ -72,6 +72,19 @@ std::string Table::Drawn(const Terminal& terminal) const {
     return drawn;
 }
 
+std::string FactLines(const Facts& facts, const Terminal& terminal) {
+    constexpr std::size_t kLabel = 13;
+    std::string lines;
+    for (const auto& [label, value] : facts) {
+        if (value.empty()) continue;
+        std::string padded = label;
+        padded.resize(kLabel, ' ');
+        const std::size_t width = terminal.width > 2 * kLabel ? terminal.width - kLabel : kLabel;
+        lines += terminal.Dim(padded) + Wrapped(value, width, kLabel) + '\n';
+    }
+    return lines;
+}
+
 std::string Wrapped(std::string_view text, std::size_t width, std::size_t indent) {
     std::string wrapped;
     std::size_t used = 0;

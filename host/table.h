@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace htdrdd::host {
@@ -33,6 +34,11 @@ private:
     std::vector<Column> columns_;
     std::vector<std::vector<std::string>> rows_;
 };
+
+/// Labels, of up to 12 characters, and what they stand for.
+using Facts = std::vector<std::pair<const char*, std::string>>;
+/// A line for each fact that isn't empty, longer ones broken between words.
+[[nodiscard]] std::string FactLines(const Facts& facts, const Terminal& terminal);
 
 /// Text that is broken between words so that it fits; the lines behind the first are indented.
 [[nodiscard]] std::string Wrapped(std::string_view text, std::size_t width, std::size_t indent);

@@ -85,11 +85,7 @@ std::string ByObjective(const clsHTDRDD& definition, Of of, Words words) {
 }
 
 std::string GradeScales(const clsHTDRDD& definition) {
-    const auto of = [&](std::int32_t l) -> const auto& {
-        const auto& own = definition.Subtests->Item(l)->GradeScale.Peek();
-        const bool shared = l > 1 && definition.SubtestGradeScale->Count() > 0;
-        return own.Count() > 0 ? own : shared ? *definition.SubtestGradeScale : *definition.GradeScale;
-    };
+    const auto of = [&](std::int32_t l) -> const auto& { return GradeScaleOf(definition, l); };
     return ByObjective(definition, of, [](const clsHTDRDDGradeScale& scale) {
         Text text;
         for (std::int32_t l = 1; l <= scale.Count(); ++l) {

@@ -1,6 +1,7 @@
 #include "host/show/show_json.h"
 
 #include "host/json_text.h"
+#include "host/record_json.h"
 
 namespace htdrdd::host {
 namespace {
@@ -77,53 +78,12 @@ Json Of(const clsHTDRDDVersions& versions) {
             {"Sequences", std::move(sequences)}};
 }
 
-Json Of(const clsHTDRDDGradeScale& scale) {
-    Json items = Json::array();
-    for (std::int32_t l = 1; l <= scale.Count(); ++l) {
-        const auto item = scale.Item(l);
-        items.push_back({{"Grade", Of(item->Grade)}, {"StartValue", Of(item->StartValue)}});
-    }
-    return {{"ScaleName", Of(scale.ScaleName)}, {"Items", std::move(items)}};
-}
-
-Json Of(const clsHTDRDDScaledScoreDB& db, bool bSecrets) {
-    const auto secret = [&](TextView text) { return bSecrets || text.empty() ? Of(text) : Json("***"); };
-    return {{"Name", Of(db.Name)},
-            {"Catalog", Of(db.Catalog)},
-            {"Table", Of(db.Table)},
-            {"MinFieldPrimary", Of(db.MinFieldPrimary)},
-            {"MaxFieldPrimary", Of(db.MaxFieldPrimary)},
-            {"MinFieldSecondary", Of(db.MinFieldSecondary)},
-            {"MaxFieldSecondary", Of(db.MaxFieldSecondary)},
-            {"ScoreField", Of(db.ScoreField)},
-            {"ScoreGrade", Of(db.ScoreGrade)},
-            {"DBType", db.DBType},
-            {"Connect", secret(db.Connect)},
-            {"DirectoryBased", db.DirectoryBased},
-            {"DSNBased", db.DSNBased},
-            {"DSNName", Of(db.DSNName)},
-            {"User", secret(db.User)},
-            {"Password", secret(db.Password)},
-            {"Valid", db.Valid}};
-}
-
-Json Of(const clsHTDRDDScaledScore& score, bool bSecrets) {
-    return {{"LearningObjectivePrimary", Of(score.LearningObjectivePrimary)},
-            {"LearningObjectiveSecondary", Of(score.LearningObjectiveSecondary)},
-            {"Precision", score.Precision},
-            {"ScaledScoreName", Of(score.ScaledScoreName)},
-            {"ScaledScoreValues", static_cast<std::int32_t>(score.ScaledScoreValues)},
-            {"ScaledScoreCriteriaPrimary", static_cast<std::int32_t>(score.ScaledScoreCriteriaPrimary)},
-            {"ScaledScoreCriteriaSecondary", static_cast<std::int32_t>(score.ScaledScoreCriteriaSecondary)},
-            {"DB", Of(*score.DB, bSecrets)}};
-}
-
 Json Of(clsHTDRDDSubtest& subtest, bool bSecrets) {
     return {{"SubtestName", Of(subtest.SubtestName)},
             {"Description", Of(subtest.Description)},
             {"Benchmark", subtest.Benchmark},
-            {"GradeScale", Of(subtest.GradeScale.Peek())},
-            {"ScaledScore", Of(*subtest.ScaledScore, bSecrets)}};
+            {"GradeScale", RecordAsJson(subtest.GradeScale.Peek())},
+            {"ScaledScore", RecordAsJson(*subtest.ScaledScore, bSecrets)}};
 }
 
 Json Of(const Dictionary& header) {
@@ -151,10 +111,10 @@ Json Of(const clsHTDRDD& definition, bool bSecrets) {
     object["Questions"] = std::move(questions);
     object["Versions"] = Of(*definition.Versions);
     object["Subtests"] = std::move(subtests);
-    object["GradeScale"] = Of(*definition.GradeScale);
-    object["SubtestGradeScale"] = Of(*definition.SubtestGradeScale);
-    object["ScaledScore"] = Of(*definition.ScaledScore, bSecrets);
-    object["SubtestScaledScore"] = Of(*definition.SubtestScaledScore, bSecrets);
+    object["GradeScale"] = RecordAsJson(*definition.GradeScale);
+    object["SubtestGradeScale"] = RecordAsJson(*definition.SubtestGradeScale);
+    object["ScaledScore"] = RecordAsJson(*definition.ScaledScore, bSecrets);
+    object["SubtestScaledScore"] = RecordAsJson(*definition.SubtestScaledScore, bSecrets);
     object["Header"] = Of(*definition.Header);
     return object;
 }

@@ -11,36 +11,6 @@
 namespace htdrdd::host {
 namespace {
 
-std::string ScaleText(const clsHTDRDDGradeScale& scale) {
-    std::string text;
-    for (std::int32_t l = 1; l <= scale.Count(); ++l) {
-        const auto item = scale.Item(l);
-        text.append(text.empty() ? "" : ", ").append(Harmless(item->Grade));
-        text.append(" ").append(Harmless(item->StartValue));
-    }
-    return text;
-}
-
-const char* LookupName(HTDScaledScoreValues values) {
-    switch (values) {
-    case HTDScaledScoreValuesNone: return "";
-    case HTDScaledScoreValuesDBTotal: return "total score";
-    case HTDScaledScoreValuesDBPercent: return "percent score";
-    case HTDScaledScoreValuesDBPercentile: return "percentile";
-    }
-    return "unknown";
-}
-
-/// What a scaled score is looked up by and where: "percent score in table Norms of SCORES". Empty for a
-/// record that isn't filled in.
-std::string ScaledScoreText(const clsHTDRDDScaledScore& score) {
-    std::string text = LookupName(score.ScaledScoreValues);
-    if (text.empty()) return text;
-    if (!score.DB->Table.empty()) text += " in table " + Harmless(score.DB->Table);
-    if (!score.DB->Name.empty()) text += " of " + Harmless(score.DB->Name);
-    return text;
-}
-
 /// Things that several learning objectives share, each listed once under a label of its own.
 class Shared {
 public:
@@ -111,8 +81,8 @@ std::string ObjectivesText(const clsHTDRDD& definition, const Memberships& membe
         table.Add({std::to_string(l), Harmless(subtest->SubtestName),
                    std::to_string(memberships.questionsOfObjective[static_cast<std::size_t>(l) - 1]),
                    HasValue(subtest->Benchmark) ? NumberText(subtest->Benchmark) : "",
-                   scales.Label(Harmless(scale.ScaleName), ScaleText(scale)),
-                   scores.Label(Harmless(score.ScaledScoreName), ScaledScoreText(score))});
+                   scales.Label(Harmless(scale.ScaleName), RecordText(scale)),
+                   scores.Label(Harmless(score.ScaledScoreName), RecordText(score))});
     }
     if (table.Empty()) return {};
     return '\n' + terminal.Bold("Learning objectives") + '\n' + table.Drawn(terminal) +

@@ -6,13 +6,8 @@
 #include "host/table.h"
 #include "host/wording.h"
 
-#include <utility>
-#include <vector>
-
 namespace htdrdd::host {
 namespace {
-
-using Facts = std::vector<std::pair<const char*, std::string>>;
 
 /// "50: 44 graded, 2 subjective"
 std::string QuestionCounts(const clsHTDRDDQuestions& questions) {
@@ -39,19 +34,6 @@ std::string VersionsLine(const clsHTDRDD& definition) {
     if (const auto question = definition.Questions->Item(versions.Question))
         if (!question->QuestionName.empty()) text += ", " + Harmless(question->QuestionName);
     return text;
-}
-
-std::string FactLines(const Facts& facts, const Terminal& terminal) {
-    constexpr std::size_t kLabel = 13;
-    std::string lines;
-    for (const auto& [label, value] : facts) {
-        if (value.empty()) continue;
-        std::string padded = label;
-        padded.resize(kLabel, ' ');
-        const std::size_t width = terminal.width > 2 * kLabel ? terminal.width - kLabel : kLabel;
-        lines += terminal.Dim(padded) + Wrapped(value, width, kLabel) + '\n';
-    }
-    return lines;
 }
 
 } // namespace

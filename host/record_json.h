@@ -1,0 +1,17 @@
+/// Grade scales and scaled scores as JSON.
+#pragma once
+
+#include "model/clsHTDRDD.h"
+
+#include <nlohmann/json.hpp>
+
+namespace htdrdd::host {
+
+/// A user, password or connection string as it may be shown: masked, unless bSecrets is set or it is empty.
+[[nodiscard]] TextView Masked(TextView secret, bool bSecrets);
+
+/// Members are named as the properties.
+[[nodiscard]] nlohmann::ordered_json RecordAsJson(const clsHTDRDDGradeScale& scale, bool bSecrets = false);
+[[nodiscard]] nlohmann::ordered_json RecordAsJson(const clsHTDRDDScaledScore& score, bool bSecrets = false);
+
+} // namespace htdrdd::host
