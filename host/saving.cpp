@@ -1,14 +1,23 @@
 #include "host/saving.h"
 
+#include "host/json_text.h"
 #include "host/output.h"
 #include "platform/file_system.h"
 
-namespace htdrdd::host {
-namespace {
+#include <filesystem>
+#include <system_error>
 
-/// Runs one save of the library, which gives whether it wrote the file.
-template <class Save>
-ExitCode SaveAs(const SaveOptions& options, const char* form, Complaints& complaints, Save save) {
+namespace htdrdd::host {
+
+bool IsSameFile(const std::string& read, const std::string& written, const char* what) {
+    std::error_code error;
+    if (!std::filesystem::equivalent(read, written, error)) return false;
+    Complain(Harmless(std::string_view(written)) + " is the " + what + " itself.");
+    return true;
+}
+
+ExitCode SaveFile(const SaveOptions& options, const std::string& form, Complaints& complaints,
+                  const std::function<bool(TextView)>& save) {
     FileSystem& files = CurrentFileSystem();
     const Text path = FromNativePath(options.file);
     const Text backup = path + u".old";
@@ -19,6 +28,11 @@ ExitCode SaveAs(const SaveOptions& options, const char* form, Complaints& compla
     const bool saved = save(path) && !complaints.Failed();
     const bool backupMade = !backupStood && files.FileExists(backup);
 
+    if (saved && options.json) {
+        const nlohmann::ordered_json kept = backupMade ? nlohmann::ordered_json(ToUtf8(backup)) : nullptr;
+        Print(JsonText({{"written", ToUtf8(path)}, {"backup", kept}}) + '\n');
+        return ExitCode::Fine;
+    }
     if (saved && !options.quiet) Print(Harmless(path) + " was saved as " + form + ".\n");
     if (backupMade && !options.quiet) Print(Harmless(backup) + " keeps the older file.\n");
     if (saved) return ExitCode::Fine;
@@ -32,17 +46,15 @@ ExitCode SaveAs(const SaveOptions& options, const char* form, Complaints& compla
     return ExitCode::Refused;
 }
 
-} // namespace
-
 ExitCode SaveDefinition(clsHTDRDD& definition, const SaveOptions& options, Complaints& complaints) {
     complaints.AnswerYes(options.yes);
-    return SaveAs(options, options.plain ? "plain text" : "an archive", complaints,
-                  [&](TextView path) { return definition.Save(path, !options.plain, !options.judged); });
+    return SaveFile(options, options.plain ? "plain text" : "an archive", complaints,
+                    [&](TextView path) { return definition.Save(path, !options.plain, !options.judged); });
 }
 
 ExitCode SaveHeaderFile(clsHTDRDD& definition, const std::string& file, Complaints& complaints) {
-    return SaveAs({.file = file}, "a header file", complaints,
-                  [&](TextView path) { return definition.SaveHeader(path); });
+    return SaveFile({.file = file}, "a header file", complaints,
+                    [&](TextView path) { return definition.SaveHeader(path); });
 }
 
 } // namespace htdrdd::host

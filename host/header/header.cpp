@@ -1,18 +1,11 @@
 #include "host/header/header.h"
 
 #include "host/definitions.h"
-#include "host/output.h"
-
-#include <filesystem>
-#include <system_error>
 
 namespace htdrdd::host {
 
 ExitCode SaveHeader(const HeaderOptions& options) {
-    if (std::error_code error; std::filesystem::equivalent(options.definition, options.header, error)) {
-        Complain(Harmless(std::string_view(options.header)) + " is the definition itself.");
-        return ExitCode::Usage;
-    }
+    if (IsSameFile(options.definition, options.header, "definition")) return ExitCode::Usage;
     Definitions definitions;
     const auto definition = definitions.Read(options.definition);
     if (!definition) return ExitCode::Refused;

@@ -6,9 +6,6 @@
 #include "host/json_text.h"
 #include "host/output.h"
 
-#include <filesystem>
-#include <system_error>
-
 namespace htdrdd::host {
 namespace {
 
@@ -25,10 +22,7 @@ bool MergeKey(clsHTDRDD& active, const MergeOptions& options, Definitions& defin
 
 ExitCode Merge(const MergeOptions& options) {
     const Text out = FromNativePath(options.save.file);
-    if (std::error_code error; std::filesystem::equivalent(options.key, options.save.file, error)) {
-        Complain(Harmless(out) + " is the key itself.");
-        return ExitCode::Usage;
-    }
+    if (IsSameFile(options.key, options.save.file, "key")) return ExitCode::Usage;
     Definitions definitions;
     const auto active = definitions.Read(options.active);
     if (!active) return ExitCode::Refused;
@@ -50,7 +44,7 @@ ExitCode Merge(const MergeOptions& options) {
     }
     if (options.json) {
         using Json = nlohmann::ordered_json;
-        Json object{{"files", {ToUtf8(FromNativePath(options.active)), ToUtf8(FromNativePath(options.key))}},
+        Json object{{"files", {ToUtf8(InputName(options.active)), ToUtf8(InputName(options.key))}},
                     {"merged", merged},
                     {"written", written ? Json(ToUtf8(out)) : Json()}};
         object.update(changes);

@@ -1,0 +1,67 @@
+/// What commands do alike with grade scales and with scaled scores.
+#pragma once
+
+#include "foundation/findings.h"
+#include "grade_scales/clsHTDGradeScaleManager.h"
+#include "host/definitions.h"
+#include "host/wording.h"
+#include "scaled_scores/clsHTDScaledScoreManager.h"
+
+namespace htdrdd::host {
+
+struct GradeScales {
+    using Record = clsHTDRDDGradeScale;
+    using Library = clsHTDGradeScaleManager;
+    static constexpr const char* kNoun = "grade scale";
+    static constexpr const char* kMember = "GradeScale"; ///< in JSON
+    static constexpr auto kName = &Record::ScaleName;
+    static constexpr auto kOfDefinition = &clsHTDRDD::GradeScale;
+    static constexpr auto kOfObjective = &clsHTDRDDSubtest::GradeScale;
+    static constexpr auto Of = GradeScaleOf;
+    static bool IsDefined(const Record& scale) { return scale.Count() > 0; }
+    /// All texts in one.
+    static Text TextsOf(const Record& scale) { return scale.ScaleName + scale.AsString(false, u""); }
+};
+
+struct ScaledScores {
+    using Record = clsHTDRDDScaledScore;
+    using Library = clsHTDScaledScoreManager;
+    static constexpr const char* kNoun = "scaled score";
+    static constexpr const char* kMember = "ScaledScore";
+    static constexpr auto kName = &Record::ScaledScoreName;
+    static constexpr auto kOfDefinition = &clsHTDRDD::ScaledScore;
+    static constexpr auto kOfObjective = &clsHTDRDDSubtest::ScaledScore;
+    static constexpr auto Of = ScaledScoreOf;
+    static bool IsDefined(const Record& score) { return score.ScaledScoreValues != HTDScaledScoreValuesNone; }
+    static Text TextsOf(const Record& score) { return score.ToString(u""); }
+};
+
+/// A grade scale or scaled score and where it was found.
+template <class Kind>
+struct Found {
+    Ref<typename Kind::Record> record; ///< the reader's own; empty where the file was refused
+    Text file;
+    Ref<clsHTDRDD> definition{}; ///< empty for an exchange file
+    std::int32_t objective = 1;
+};
+
+/// That of a learning objective of a definition, or that of an exchange file, which has no learning
+/// objectives.
+template <class Kind>
+[[nodiscard]] Found<Kind> ReadRecord(Definitions& definitions, const std::string& file,
+                                     const std::optional<std::string>& objective);
+
+/// The first broken rule. Without a definition a scaled score isn't judged.
+[[nodiscard]] std::optional<Finding> Judge(const clsHTDRDDGradeScale& scale,
+                                           const Ref<clsHTDRDD>& definition = {}, std::int32_t objective = 1);
+[[nodiscard]] std::optional<Finding> Judge(const clsHTDRDDScaledScore& score,
+                                           const Ref<clsHTDRDD>& definition, std::int32_t objective);
+/// "The minimum scale values must be in descending order. (row 2)"
+[[nodiscard]] std::string FindingText(const Finding& finding);
+
+/// Whether a text would come apart in a definition or a library, which set texts apart with these.
+[[nodiscard]] inline bool ComesApart(TextView text) {
+    return text.find_first_of(u"\t\v\r\n") != TextView::npos;
+}
+
+} // namespace htdrdd::host
