@@ -27,7 +27,8 @@ struct Parsed {
     int dashes = 0; ///< how often standard input is to be read
 };
 
-constexpr const char* kExitCodes =
+constexpr const char* kFooter =
+    "For one of the files to read, - stands for standard input.\n"
     "Exit codes: 0 fine, 1 findings, differences, or something that was declined, 2 usage, 3 a file "
     "that is missing, was refused or can't be written, 4 an internal failure.";
 
@@ -259,7 +260,7 @@ ExitCode RunCommandLine(int argc, char** argv) {
     CLI::App app("Shows, judges, compares, merges and saves answer keys of tests and surveys", "htdrdd");
     app.set_version_flag("--version", "htdrdd " + std::string(kRelease), "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
-    app.footer(kExitCodes);
+    app.footer(kFooter);
     app.require_subcommand(1);
     app.fallthrough(); // --version behind a subcommand
 

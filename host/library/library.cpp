@@ -71,7 +71,7 @@ ExitCode EditLibrary(Definitions& definitions, const LibraryOptions& options, bo
     const auto string = isMade ? Text() : definitions.ReadText(options.library, NoLibrary<Kind>());
     auto library = string ? Loaded<Kind>(definitions, options, *string) : nullptr;
     if (!library) return ExitCode::Refused;
-    if (!ComesBack<Kind>(*library, *string)) return refuse("not all of it would be kept.");
+    if (!ComesBack<Kind>(*library, *string)) return refuse("one of its entries would be lost or changed.");
     definitions.Heard().Silent(true);
     if (const ExitCode code = edit(library); code != ExitCode::Fine) return code;
     const Text saved = library->SaveToString();
@@ -110,7 +110,7 @@ ExitCode List(const LibraryOptions& options) {
     else if (!table.Empty())
         Print(table.Drawn(Terminal::OfOutput()));
     if (ComesBack<Kind>(*library, *string)) return ExitCode::Fine;
-    Complain(Harmless(InputName(options.library)) + " holds more than that, or in another form.");
+    Complain(Harmless(InputName(options.library)) + " holds more than that, or holds it in another form.");
     return ExitCode::Findings;
 }
 

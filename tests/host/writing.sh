@@ -13,7 +13,17 @@ cd "$work/files" || exit 1
 
 run() {
     echo "\$ htdrdd $*"
-    "$htdrdd" "$@" >"$work/output" 2>&1 </dev/null
+    : >"$work/input" && run_with_input "$@"
+}
+# What stands on standard input, then the arguments.
+given() {
+    text=$1
+    shift
+    printf "\$ htdrdd %s, given '%s'\n" "$*" "$text"
+    printf "$text" >"$work/input" && run_with_input "$@"
+}
+run_with_input() {
+    "$htdrdd" "$@" >"$work/output" 2>&1 <"$work/input"
     code=$?
     sed 's/; Line: [0-9]*/; Line: #/' "$work/output"
     echo "--- exit code $code"
@@ -129,6 +139,86 @@ refused() {
     for name in missing.header folder exam.rdd; do run header load exam.rdd $name -o new; done
     run header load exam.rdd exam.header
     cmp exam.rdd "$samples/exam.rdd"
+}
+
+scale() {
+    cp "$samples/letters.scale.xml" letters.xml
+    run scale export exam.rdd mastery.xml --objective Genetics
+    run scale show mastery.xml --json
+    run scale import exam.rdd mastery.xml -o overall.rdd --plain
+    compare exam.rdd overall.rdd
+    run scale import exam.rdd letters.xml --objective 3 -o new.rdd --json
+    compare exam.rdd new.rdd
+    run scale grade new.rdd 90 89.9996 89.9994 5% -5 --objective 3
+    run scale grade mastery.xml 82.5 82.449 59.95 --places 1
+    given '89.5%%\r\n\nabc\n-0.5\n90,5' scale grade exam.rdd
+    given '70\n1e2' scale grade letters.xml --json
+    run scale grade exam.rdd 90 9O
+    "$htdrdd" scale clip exam.rdd | od -An -c
+    given 'Pass\t50%%\nFail\t' scale clip --paste - -o pasted.xml --name Pasted
+    given 'F\t0\r\nA\t90\r\n' scale clip --paste - -o upside.xml
+    run scale grade upside.xml 95
+    for clip in '' '\n' 'A\t90\n\nF\t0'; do given "$clip" scale clip --paste - -o none.xml; done
+    for name in pasted upside; do cat $name.xml && echo; done
+}
+scores() {
+    run scaled-score show exam.rdd
+    run scaled-score export exam.rdd norm.xml
+    run scaled-score show norm.xml --secrets
+    run scaled-score import quiz.rdd norm.xml -o new.rdd
+    compare quiz.rdd new.rdd
+    sed 's/DB.ScoreField="scaled"/DB.ScoreField=""/' norm.xml >invalid.xml
+    run scaled-score import quiz.rdd invalid.xml -o none.rdd
+    sed 's/DB.User="../DB.User="XX/' norm.xml >broken.xml
+    run scaled-score show broken.xml
+    run scaled-score export exam.rdd none.xml --objective 2
+    run score percent 7 25
+    run score percent 7 0
+    run score total 33.3% 50 --json
+    run score total 1e2 50
+    run score possible exam.rdd --objective Genetics
+}
+library() {
+    cp "$samples/letters.scale.xml" letters.xml && cp "$samples/scales.library" a.lib
+    run library list a.lib
+    run library rename a.lib 'Mastery levels' Levels
+    run library add a.lib quiz.rdd --name ' New '
+    run library remove a.lib 'Letter grades' -o b.lib --json
+    run library list b.lib && cp a.lib kept.lib
+    run library add a.lib letters.xml
+    run library rename a.lib Levels New
+    for name in Missing levels; do run library rename a.lib $name Other; done
+    run library add a.lib quiz.rdd --name 'A	B'
+    sed 's/Grade="A"/Grade="A\&#9;80\&amp;B"/' letters.xml >tab.xml
+    run library add a.lib tab.xml --name Tab
+    cmp a.lib kept.lib
+    for name in exam older; do run library add --scaled-scores s.lib $name.rdd; done
+    run library list --scaled-scores s.lib
+    run library add s.lib letters.xml
+    # An entry twice, an empty one, half a character, another form of a number, no library at all.
+    for text in 'A\t0&F\vA\t0&F' 'A\t0&F\v\vB\t0&F' '\377\376A' 'A\t90%%&A' 'A\nB'; do
+        printf "$text" >odd.lib
+        run library add odd.lib letters.xml
+        printf "$text" | cmp - odd.lib
+    done
+    : >empty.lib && for name in empty.lib tab.xml; do run library add $name letters.xml; done
+}
+input() {
+    mkdir folder
+    "$htdrdd" show - <exam.rdd | head -3
+    "$htdrdd" convert --plain - new.rdd <exam.rdd && compare exam.rdd new.rdd
+    run diff - -
+    run scale grade -
+    run scale show folder
+    run scale show exam.rdd --objective Missing
+    cp "$samples/letters.scale.xml" letters.xml
+    run scale show letters.xml --objective 1
+    sed '1s/^/<!DOCTYPE HaldenTallyDesk>/' letters.xml >type.xml && run scale show type.xml
+    run scale export exam.rdd none/new
+    run scale export exam.rdd ./exam.rdd
+    given 'text' scale import exam.rdd - -o new.rdd
+    run library remove - x
+    ls "$TMPDIR"
 }
 
 { "$2"; ls | grep -v '\.rdd$'; } >"$work/actual" 2>&1
