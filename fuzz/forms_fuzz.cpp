@@ -48,7 +48,7 @@ void CheckLibrary(TextView text) {
 
 void CheckScoreText(TextView text) {
     const auto score = Make<clsHTDRDDScaledScore>();
-    for (const TextView delimiter : {u"\t", u";", u"::"}) {
+    for (const TextView delimiter : {u"\t", u";", u";:"}) {
         if (!score->FromString(text, delimiter)) continue;
         const auto again = Make<clsHTDRDDScaledScore>();
         Demand(again->FromString(score->ToString(delimiter), delimiter));

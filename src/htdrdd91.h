@@ -1,5 +1,6 @@
-/// All that a C++ host needs: the document and everything it owns, the base class of host objects, and the
-/// walks over the rules for hosts that want more than the first finding.
+/// All that a C++ host needs: the document and everything it owns, the libraries of scales and scaled scores,
+/// the base class of host objects, the region, and the walks over the rules for hosts that want more than the
+/// first finding.
 #pragma once
 
 #include "foundation/ErrorHost.h"
@@ -8,6 +9,7 @@
 #include "grade_scales/grade_scale_rules.h"
 #include "model/basPublicAnswers.h"
 #include "model/clsHTDRDD.h"
+#include "platform/region.h"
 #include "scaled_scores/clsHTDScaledScoreManager.h"
 #include "scaled_scores/scaled_score_rules.h"
 #include "validation/key_rules.h"

@@ -15,7 +15,8 @@ std::unique_ptr<const XmlReader> Loaded(TextView sFileName) {
     Bytes bytes;
     try {
         bytes = CurrentFileSystem().Read(sFileName);
-    } catch (const Failure&) { // no file, or none for us
+    } catch (const Failure& failure) { // no file, or none for us
+        if (failure.Number() == static_cast<std::int32_t>(Err::Memory)) throw;
     }
     return std::make_unique<const XmlReader>(bytes.View());
 }

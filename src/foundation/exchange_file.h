@@ -4,6 +4,8 @@
 
 #include "platform/xml_document.h"
 
+#include <memory>
+
 namespace htdrdd {
 
 class ExchangeWriter {

@@ -29,8 +29,8 @@ public:
     /// Raised by Add and Remove after a change: what a host shows of the library is out of date.
     Event Reload;
 
-    /// Takes the outer blanks off the caller's key and stores the record under it. A key that is in use
-    /// changes nothing.
+    /// Takes the outer blanks off the caller's key, also where it is in use, which changes nothing else, and
+    /// stores the record under it.
     void Add(Text& sKey, const Ref<Record>& oRecord) noexcept {
         try {
             const Ref<RecordLibrary> self(this); // a handler may release it
@@ -88,7 +88,7 @@ public:
             if (mRecords->Exists(vOldKey)) mRecords->SetKey(vOldKey, vNewKey);
         } catch (...) { ReportFailure(kLocation<u"Key">); }
     }
-    /// All keys from 0 on.
+    /// All keys from 0 on: texts, but for those that were renamed to a number.
     [[nodiscard]] Array<Variant> Keys() const noexcept {
         Array<Variant> result;
         try {

@@ -11,7 +11,8 @@ namespace htdrdd {
 
 /// Grade scales. A scale is held as its name and, each behind a tab, its rows: start value, "&", grade. Start
 /// values are put down as plain numbers, so that 90% becomes 90. An empty piece ends LoadFromString with a
-/// failure. A scale without a name and without rows is stored, but Item gives an empty reference for it.
+/// failure. A scale without a name and without rows is stored, but Item gives an empty reference for it; so
+/// is an empty reference, which is reported.
 class clsHTDGradeScaleManager final : public RecordLibrary<clsHTDRDDGradeScale, u"clsHTDGradeScaleManager"> {
 public:
     /// A new scale from the clip form, which spreadsheets paste: a line for each row, with the grade, a tab

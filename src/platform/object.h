@@ -10,8 +10,8 @@
 
 namespace htdrdd {
 
-/// Base of everything that can be referred to. It ends with its last reference. An object and all references
-/// to it belong to one thread at a time.
+/// Base of everything that can be referred to. It is made with Make, never on the stack, and ends with its
+/// last reference. An object and all references to it belong to one thread at a time.
 class Object {
 public:
     Object() = default;

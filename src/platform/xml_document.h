@@ -33,12 +33,13 @@ private:
     const void* node_ = nullptr; ///< as the XML library has it
 };
 
-/// A document to read, in UTF-8 with or without a byte order mark, in UTF-16 with one, or as its declaration
-/// says. Names in a namespace are other names than those without.
+/// A document to read, in UTF-8 with or without a byte order mark or in UTF-16 with one, whatever its
+/// declaration says. Names in a namespace are other names than those without.
 class XmlReader {
 public:
     /// Isn't open afterwards where the bytes are no well-formed document, or one with a document type: those
-    /// can name other files and grow without end. Elements nested beyond some 250 aren't read either.
+    /// can name other files and grow without end. Elements more than 250 deep and those with more than
+    /// 500 attributes aren't read either.
     explicit XmlReader(std::string_view bytes);
     XmlReader(const XmlReader&) = delete;
     XmlReader& operator=(const XmlReader&) = delete;
@@ -65,7 +66,7 @@ public:
     void Begin(TextView name);
     /// Adds an attribute to the element that is open. Fails with 5 for a value with characters that XML can't
     /// hold, most control characters, unpaired surrogates, U+FFFE and U+FFFF, and for one of more than a
-    /// million units, which might be refused when it is read.
+    /// hundred million units, which might be refused when it is read.
     void Attribute(TextView name, TextView value, Where at = Where::current());
     void End();
     /// The whole document in UTF-8, without a declaration.

@@ -62,7 +62,8 @@ public:
     [[nodiscard]] Text ToString(TextView sDelimiter = u"\t") const noexcept;
     /// Clears the record and fills it from such pairs, in any order; values lose their outer blanks, and what
     /// is no pair or has an unknown key is passed over. True where there is no pair at all, too. False after
-    /// a failure, which is reported, with what was filled up to then.
+    /// a failure, which is reported, such as a number out of range, with what was filled up to then and what
+    /// was enciphered still so.
     bool FromString(TextView sScaledScore, TextView sDelimiter = u"\t") noexcept;
 
     /// Writes an exchange file with what ToString gives; an existing one is replaced. Whether the file is

@@ -36,10 +36,12 @@ bool clsHTDRDDScaledScore::FromString(TextView sScaledScore, TextView sDelimiter
     bool result = false;
     try {
         const Ref<clsHTDRDDScaledScore> self(this);
+        const Text text(sScaledScore); // both may be members that change now
+        const Text delimiter(sDelimiter);
         Clear();
         bool unicode = false;
         RowFinder<ScaledScoreRow, kScaledScoreMembers.size(), SameKey> rows(kScaledScoreMembers);
-        EachPiece(sScaledScore, sDelimiter, [&](TextView piece) {
+        EachPiece(text, delimiter, [&](TextView piece) {
             const std::size_t equals = piece.find(u'=');
             if (equals == TextView::npos) return;
             const ScaledScoreRow* const row = rows.Find(piece.substr(0, equals));

@@ -108,14 +108,32 @@ TEST_F(RecordLibraries, HandlersMayDoAsTheyLike) {
     EXPECT_TRUE(library->LoadFromString(saved));
     EXPECT_EQ(library->Count() + events, 4);
     library->Reload.Disconnect(saves);
+    Text key = u" new ";
     library->Reload.Connect([&] {
-        if (library->Count() < 5) library->Add(saved, library->Item(u"first of all"));
+        EXPECT_TRUE(library->Exists(u"new"));
         library->Reset();
         library = nullptr;
+        key.assign(1000, u'x');
     });
-    Text key = u" new ";
+    library->Reload.Connect([&] { ++events; });
     library->Add(key, Make<clsHTDRDDGradeScale>());
     EXPECT_FALSE(library);
+    EXPECT_EQ(events, 3);
+
+    const auto score = Make<clsHTDRDDScaledScore>();
+    score->ScaledScoreName = u"ScaledScoreName=a name of some length";
+    EXPECT_TRUE(score->FromString(score->ScaledScoreName));
+    EXPECT_EQ(score->ScaledScoreName, u"a name of some length");
+    saved = u"ScaledScoreDBConnect=plain;ScaledScoreDBUser=plain too;ScaledScoreDBPassword=secret";
+    host->whenHeard = [&] {
+        saved.assign(1000, u'x');
+        EXPECT_EQ(score->DB->Password.empty(), host->said.size() > 2);
+        EXPECT_EQ(score->DB->User.empty(), host->said.size() > 1);
+    };
+    EXPECT_TRUE(score->FromString(saved, u";"));
+    host->whenHeard = nullptr;
+    EXPECT_EQ(Heard(), (Said{kArgument + "basPublic.Decrypt", kArgument + "basPublic.Decrypt",
+                             kArgument + "basPublic.Decrypt"}));
 }
 
 } // namespace

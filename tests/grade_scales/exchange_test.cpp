@@ -40,12 +40,27 @@ TEST_F(GradeScaleForms, ExchangeFilesAreReadAsTheyAre) {
     std::string bigEndian = Unicode(unicode);
     for (std::size_t i = 0; i < bigEndian.size(); i += 2) std::swap(bigEndian[i], bigEndian[i + 1]);
     EXPECT_EQ(Imported(bigEndian), u"true \u00e9:");
+    for (const std::string& bytes :
+         {ToUtf8(unicode) + '\0' + "x", Unicode(unicode) + "x", Unicode(unicode + u"\xD800"),
+          "\xFF\xFE" + ToUtf8(unicode), std::string()})
+        EXPECT_EQ(Imported(bytes), u"false old: 0=O");
+    const Text declared = u"<?xml version='1.0' encoding='windows-1252'?>" + unicode;
+    EXPECT_EQ(Imported(ToUtf8(declared)), u"true \u00e9:");
+    EXPECT_EQ(Imported(ToCodePage(declared)), u"false old: 0=O");
+    Text attributes;
+    for (int i = 0; i < 500; ++i) attributes += u" a" + DecimalText(i) + u"='>'";
+    const auto among = [&](const Text& one) {
+        return Imported(ToUtf8(Document(u"{<!--'--><GradeScale Name=''" + one + attributes + u"/>}")));
+    };
+    EXPECT_EQ(among(u"") + among(u" b='<'"), u"false old: 0=Ofalse old: 0=O");
+    attributes.resize(attributes.size() - Text(u" a499='>'").size());
+    EXPECT_EQ(among(u""), u"true :");
     const auto nested = [&](std::size_t depth) {
         const auto many = [&](TextView tag) { return Replaced(Text(depth, u'x'), u"x", tag); };
         return Imported(
             ToUtf8(Document(u"{<GradeScale>" + many(u"<a>") + many(u"</a>") + u"</GradeScale>}")));
     };
-    EXPECT_EQ(nested(200) + nested(100'000), u"true : =false old: 0=O");
+    EXPECT_EQ(nested(248) + nested(249), u"true : =false old: 0=O");
     const auto scale = Make<clsHTDRDDGradeScale>();
     EXPECT_FALSE(scale->Import(u"/none.xml") || scale->Import(u"/none/none.xml") || scale->Import(u"/tmp"));
     const ScopedRegion region(CommaRegion());
@@ -72,9 +87,18 @@ TEST_F(GradeScaleForms, ExchangeFilesAreWrittenInOnePiece) {
         EXPECT_TRUE(result ? Heard().size() < 2 : !Heard().empty());
         EXPECT_TRUE(fired == 0 || n < 20);
     }
+    for (const Text& part : {Text(1'000'000, u'"'), Text(50, u'a')}) { // tens of megabytes
+        const auto large = Make<clsHTDRDDGradeScale>();
+        const auto row = Make<clsHTDRDDGradeScaleItem>();
+        row->Grade = part;
+        for (std::size_t left = 12'000'000 / part.size(); left > 0; --left) large->Add(row);
+        const auto back = Make<clsHTDRDDGradeScale>();
+        EXPECT_TRUE(large->Export(u"/scale.xml") && back->Import(u"/scale.xml"));
+        EXPECT_TRUE(back->Count() == large->Count() && back->Item(back->Count())->Grade == part);
+    }
     files.files = {{u"/scale.xml", "old"}};
-    for (const Text& text : {Text(1, u'\0'), Text(u"\x1F"), Text(u"\xD800 "), Text(u"a\xDC00"),
-                             Text(u"\xFFFF"), Text(1'000'001, u'x')}) {
+    for (const Text& text :
+         {Text(1, u'\0'), Text(u"\x1F"), Text(u"\xD800 "), Text(u"a\xDC00"), Text(u"\xFFFF")}) {
         scale->Item(1)->Grade = text;
         EXPECT_FALSE(scale->Export(u"/scale.xml"));
         EXPECT_EQ(Heard(), Said{kArgument + "clsHTDRDDGradeScale.Export"});
