@@ -33,8 +33,8 @@ T* Had(T* object) {
 class Listening {
 public:
     Listening() {
-        static const bool initialized =
-            (::xmlInitParser(), true); // before anything of the library is touched
+        // Once, before anything else of the library is touched.
+        static const bool initialized = (::xmlInitParser(), true);
         static_cast<void>(initialized);
         handler_ = xmlStructuredError; // both are macros
         context_ = xmlStructuredErrorContext;

@@ -20,7 +20,8 @@ inline std::vector<std::string> Words(const std::string& name) {
     std::ifstream file(HTDRDD_SOURCE_DIR "/tests/words/" + name + ".txt");
     std::vector<std::string> words;
     for (std::string line; std::getline(file, line); words.push_back(line))
-        for (const auto& [escape, unit] : {std::pair("\\r", "\r"), {"\\n", "\n"}, {"\\t", "\t"}, {"\\v", "\v"}})
+        for (const auto& [escape, unit] :
+             {std::pair("\\r", "\r"), {"\\n", "\n"}, {"\\t", "\t"}, {"\\v", "\v"}})
             for (std::size_t at = 0; (at = line.find(escape)) != std::string::npos;)
                 line.replace(at, 2, unit);
     return words;
