@@ -53,7 +53,9 @@ Text clsHTDRDDGradeScale::CalculateGrade(double dPercentScore, std::int16_t iDec
         if (iDecimalPlaces < 0) throw Failure(Err::Argument, Where::current());
         if (Count() == 0) return result;
         // The very number that a start value of the rounded score's digits is.
-        const double score = FixedNumber(dPercentScore, iDecimalPlaces);
+        const auto fixed = FixedNumber(dPercentScore, iDecimalPlaces);
+        const double score =
+            fixed ? *fixed : basPublic::TextToDouble(FixedText(dPercentScore, iDecimalPlaces));
         for (const auto& row : mItems)
             if (basPublic::TextToDouble(row->StartValue) <= score) return row->Grade;
         result = mItems.Item(Count())->Grade;

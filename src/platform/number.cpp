@@ -312,23 +312,18 @@ Text FixedText(double value, std::int32_t places, Where at) {
     return text;
 }
 
-double FixedNumber(double value, std::int32_t places, Where at) {
+std::optional<double> FixedNumber(double value, std::int32_t places) noexcept {
     constexpr std::int32_t kMostPlaces = 6;
     constexpr double kMostUnits = 1e9;
     constexpr double kNearTie = 1e-5; // more than 15 digits and the multiplication can move so many units
-    if (places >= 0 && places <= kMostPlaces) {
-        const double one = kTens[static_cast<std::size_t>(places)];
-        const double units = std::fabs(value) * one;
-        const double whole = std::floor(units);
-        const double part = units - whole;
-        if (units < kMostUnits && std::fabs(part - .5) > kNearTie) {
-            const double fixed = (part < .5 ? whole : whole + 1) / one;
-            return value < 0 && fixed != 0 ? -fixed : fixed;
-        }
-    }
-    Text text = FixedText(value, places, at);
-    std::replace(text.begin(), text.end(), CurrentRegion().decimalMark, u'.');
-    return LeadingNumber(text, at);
+    if (places < 0 || places > kMostPlaces) return {};
+    const double one = kTens[static_cast<std::size_t>(places)];
+    const double units = std::fabs(value) * one;
+    const double whole = std::floor(units);
+    const double part = units - whole;
+    if (!(units < kMostUnits) || std::fabs(part - .5) <= kNearTie) return {};
+    const double fixed = (part < .5 ? whole : whole + 1) / one;
+    return value < 0 && fixed != 0 ? -fixed : fixed;
 }
 
 } // namespace htdrdd

@@ -37,8 +37,9 @@ namespace htdrdd {
 /// half away from zero on the number's 15-digit decimal form, so that 1.005 gives 1.01. Negative places fail
 /// with 5, infinity and NaN with 6.
 [[nodiscard]] Text FixedText(double value, std::int32_t places, Where at = Where::current());
-/// The number that such a text shows. Fails as FixedText does.
-[[nodiscard]] double FixedNumber(double value, std::int32_t places, Where at = Where::current());
+/// The number that such a text shows, where arithmetic alone finds it; nothing where the text is needed, as
+/// near a tie.
+[[nodiscard]] std::optional<double> FixedNumber(double value, std::int32_t places) noexcept;
 
 /// A result of arithmetic that has to be a number: infinity and NaN fail with 6.
 [[nodiscard]] double InRange(double value, Where at = Where::current());

@@ -125,6 +125,8 @@ TEST_F(GradeScales, TheFirstRowThatFitsWinsAndTheLastTakesTheRest) {
     const auto empty = Make<clsHTDRDDGradeScale>();
     EXPECT_EQ(Scale(u"F|A", u"0|90")->CalculateGrade(95), u"F");
     EXPECT_EQ(Scale(u"A|B", u"90|80")->CalculateGrade(10), u"B");
+    EXPECT_EQ(Scale(u"A|F", u"90|0")->CalculateGrade(std::numeric_limits<double>::max()), u"F")
+        << "this is meant: its 15 digits are no double";
     EXPECT_EQ(empty->CalculateGrade(50) + empty->CalculateGrade(kInfinity), u"");
     EXPECT_EQ(Heard(), Said());
     EXPECT_EQ(Scale(u"A", u"0")->CalculateGrade(50, -1) + empty->CalculateGrade(50, -1), u"");
