@@ -2,9 +2,9 @@
 
 #include "definition_file/messages.h"
 #include "definition_file/scale_section.h"
-#include "definition_file/scaled_score_section.h"
 #include "definition_file/section_rows.h"
 #include "foundation/basError.h"
+#include "scaled_scores/scaled_score_members.h"
 
 namespace htdrdd::basTemplate {
 namespace {
@@ -32,13 +32,13 @@ bool VB_RT_read_subtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexc
         auto subtest = Make<clsHTDRDDSubtest>();
         RowFinder finder(kRows);
         ScaleKeys scale{subtest->GradeScale};
-        ScaledScoreKeys score(subtest->ScaledScore);
+        ScaledScorePairs score(subtest->ScaledScore);
         lines.EnterSection();
         for (SectionLines::Pair pair; lines.NextPair(pair);) {
             if (const Row* row = finder.Find(pair.key))
                 row->put(*subtest, pair.value, Where::current());
             else if (!scale.Take(pair))
-                score.Take(pair);
+                score.Take(pair.key, pair.value);
         }
         if (scale.numValues > 0 && !scale.AddRows()) {
             ShowInvalidFile(u"An error occurred reading the [Subtest] section of the configuration file. The "
@@ -59,7 +59,7 @@ void WriteSubtest(TextWriter& out, const clsHTDRDDSubtest& oSubtest, const Varia
     if (const auto& scale = oSubtest.GradeScale.Peek(); scale.Count() >= 1)
         WriteScaleKeys(out, scale, sDecimalMark, at);
     const Ref score(&oSubtest.ScaledScore.Peek()); // a report may make the host replace it
-    if (score->IsValid(oRDD, bForLearningObjective)) WriteScaledScoreKeys(out, *score, at);
+    if (score->IsValid(oRDD, bForLearningObjective)) WriteRows(out, kScaledScoreMembers, *score, at);
     out.WriteLine({}, at);
 }
 

@@ -35,24 +35,16 @@ Text clsHTDRDDScaledScore::ToString(TextView sDelimiter) const noexcept {
 bool clsHTDRDDScaledScore::FromString(TextView sScaledScore, TextView sDelimiter) noexcept {
     bool result = false;
     try {
-        const Ref<clsHTDRDDScaledScore> self(this);
+        ScaledScorePairs<SameKey> pairs{Ref(this)};
         const Text text(sScaledScore); // both may be members that change now
         const Text delimiter(sDelimiter);
         Clear();
-        bool unicode = false;
-        RowFinder<ScaledScoreRow, kScaledScoreMembers.size(), SameKey> rows(kScaledScoreMembers);
         EachPiece(text, delimiter, [&](TextView piece) {
             const std::size_t equals = piece.find(u'=');
-            if (equals == TextView::npos) return;
-            const ScaledScoreRow* const row = rows.Find(piece.substr(0, equals));
-            if (row == nullptr) return;
-            const TextView value = Trimmed(piece.substr(equals + 1));
-            if (row->form == Form::Mark)
-                ReadValue(value, unicode, Where::current());
-            else
-                row->put(*this, value, Where::current());
+            if (equals != TextView::npos)
+                pairs.Take(piece.substr(0, equals), Trimmed(piece.substr(equals + 1)));
         });
-        DecipherConnection(*this, unicode);
+        pairs.Decipher();
         result = true;
     } catch (...) { ReportFailure(u"HTDRdd91 - clsHTDRDDScaledScore.FromString"); }
     return result;

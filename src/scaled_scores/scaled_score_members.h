@@ -8,6 +8,7 @@
 
 #include <array>
 #include <type_traits>
+#include <utility>
 
 namespace htdrdd {
 
@@ -97,5 +98,30 @@ static_assert(kScaledScoreMembers.size() == 24);
 /// Deciphers Connect, User and Password, in that order, where they aren't empty. A text that isn't enciphered
 /// is reported and becomes empty. Fails with 91 without a DB.
 void DecipherConnection(const clsHTDRDDScaledScore& score, bool bUnicode);
+
+/// Fills a record from keys and values as definition files and the string form have them. The record is held:
+/// a report may make the host replace it.
+template <bool (*Same)(TextView, TextView) noexcept = SameInUpperCase>
+class ScaledScorePairs {
+public:
+    explicit ScaledScorePairs(Ref<clsHTDRDDScaledScore> score) : score_(std::move(score)) {}
+    /// False for a key of something else.
+    bool Take(TextView key, TextView value, Where at = Where::current()) {
+        const ScaledScoreRow* const row = finder_.Find(key);
+        if (row == nullptr) return false;
+        if (row->form == ScaledScoreRow::Form::Mark)
+            ReadValue(value, unicode_, at);
+        else
+            row->put(*score_, value, at);
+        return true;
+    }
+    /// Deciphers what was taken enciphered; to be called at the end.
+    void Decipher() const { DecipherConnection(*score_, unicode_); }
+
+private:
+    Ref<clsHTDRDDScaledScore> score_;
+    RowFinder<ScaledScoreRow, kScaledScoreMembers.size(), Same> finder_{kScaledScoreMembers};
+    bool unicode_ = false;
+};
 
 } // namespace htdrdd
