@@ -8,9 +8,6 @@
 namespace htdrdd::host {
 namespace {
 
-constexpr std::string_view kUtf16Mark = "\xFF\xFE";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-
 /// The name of a temporary file with all of standard input; empty where there is none.
 Text CopyOfStandardInput() {
     std::string bytes;
@@ -43,22 +40,7 @@ std::optional<Text> DecodedText(std::string_view bytes) {
         return text;
     }
     if (bytes.size() % 2 != 0) return {};
-    Text text;
-    text.reserve(bytes.size() / 2);
-    for (std::size_t i = kUtf16Mark.size(); i < bytes.size(); i += 2)
-        text += static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) |
-                                      static_cast<unsigned char>(bytes[i + 1]) << 8U);
-    return text;
-}
-
-std::string EncodedText(TextView text) {
-    std::string bytes(kUtf16Mark);
-    bytes.reserve(bytes.size() + text.size() * 2);
-    for (const char16_t unit : text) {
-        bytes += static_cast<char>(unit & 0xFFU);
-        bytes += static_cast<char>(unit >> 8U);
-    }
-    return bytes;
+    return FromUtf16(bytes.substr(kUtf16Mark.size()));
 }
 
 } // namespace htdrdd::host

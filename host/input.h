@@ -29,7 +29,5 @@ private:
 
 /// Text in UTF-16, little-endian with a byte order mark, or else in UTF-8. Nothing where it is in neither.
 [[nodiscard]] std::optional<Text> DecodedText(std::string_view bytes);
-/// Text as all files of the system hold it, in UTF-16 with a byte order mark.
-[[nodiscard]] std::string EncodedText(TextView text);
 
 } // namespace htdrdd::host

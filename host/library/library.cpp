@@ -82,7 +82,7 @@ ExitCode EditLibrary(Definitions& definitions, const LibraryOptions& options, bo
                     "a library", definitions.Heard(), [&](TextView path) {
                         bool isWritten = false;
                         IgnoreFailure([&] {
-                            WriteWholeFile(path, EncodedText(saved));
+                            WriteWholeFile(path, std::string(kUtf16Mark) + ToUtf16(saved));
                             isWritten = true;
                         });
                         return isWritten;

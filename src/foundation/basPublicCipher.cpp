@@ -99,10 +99,7 @@ Text UnicodeToHex(TextView sText) noexcept {
     Text result;
     try {
         result.reserve(sText.size() * 4);
-        for (const char16_t unit : sText) {
-            AppendHex(result, static_cast<unsigned char>(unit & 0xFF));
-            AppendHex(result, static_cast<unsigned char>(unit >> 8));
-        }
+        for (const char byte : ToUtf16(sText)) AppendHex(result, static_cast<unsigned char>(byte));
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.UnicodeToHex"); }
     return result;
 }
@@ -120,9 +117,7 @@ Text HexToUnicode(TextView sHex) noexcept {
             if (digit < 0) throw Failure(Err::TypeMismatch);
             bytes += static_cast<char>(digit);
         }
-        for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
-            result += static_cast<char16_t>(static_cast<unsigned char>(bytes[i]) |
-                                            static_cast<unsigned char>(bytes[i + 1]) << 8);
+        result = FromUtf16(bytes);
     } catch (...) {
         result.clear();
         ReportFailure(u"HTDRdd91 - basPublic.HexToUnicode");

@@ -29,7 +29,7 @@ Text RandomHexadecimal(std::int32_t lUpper) {
 }
 
 bool StartsWithMark(FileSystem& files, TextView file, Where at = Where::current()) {
-    return files.Read(file, 2, at).View() == "\xFF\xFE";
+    return files.Read(file, 2, at).View() == kUtf16Mark;
 }
 
 /// What stands behind the last point of a file name; empty where there is none.

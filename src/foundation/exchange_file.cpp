@@ -10,7 +10,7 @@ namespace {
 constexpr TextView kRoot = u"HaldenTallyDesk";
 constexpr TextView kFileType = u"FileType";
 
-/// The document of a file; not open where the file can't be read.
+/// The document of a file; one without a root where the file can't be read.
 std::unique_ptr<const XmlReader> Loaded(TextView sFileName) {
     Bytes bytes;
     try {

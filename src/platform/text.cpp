@@ -209,6 +209,24 @@ Text FromCharacterSet(std::string_view bytes, const char* name) {
     return text;
 }
 
+std::string ToUtf16(TextView text) {
+    std::string bytes(text.size() * 2, '\0');
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        bytes[2 * i] = static_cast<char>(text[i] & 0xFF);
+        bytes[2 * i + 1] = static_cast<char>(text[i] >> 8);
+    }
+    return bytes;
+}
+
+Text FromUtf16(std::string_view bytes, std::endian order) {
+    const std::size_t low = order == std::endian::little ? 0 : 1;
+    Text text(bytes.size() / 2, u'\0');
+    for (std::size_t i = 0; i < text.size(); ++i)
+        text[i] = static_cast<char16_t>(static_cast<unsigned char>(bytes[2 * i + low]) |
+                                        static_cast<unsigned char>(bytes[2 * i + 1 - low]) << 8);
+    return text;
+}
+
 Text FromCodePage(std::string_view bytes) {
     const UpperHalf& upper = CodePageUpperHalf();
     Text out(bytes.size(), u'\0');

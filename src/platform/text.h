@@ -4,6 +4,7 @@
 
 #include "platform/array.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -96,6 +97,14 @@ void EachPiece(TextView text, TextView delimiter, Piece piece) {
 
 /// Bytes in a character set of the operating system, by its name. An unknown set counts as UTF-8.
 [[nodiscard]] Text FromCharacterSet(std::string_view bytes, const char* name);
+
+/// UTF-16 as it stands in files, less the byte order mark. Half a unit at the end is left out.
+[[nodiscard]] std::string ToUtf16(TextView text);
+[[nodiscard]] Text FromUtf16(std::string_view bytes, std::endian order = std::endian::little);
+
+/// The byte order marks of files.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+inline constexpr std::string_view kUtf16Mark = "\xFF\xFE"; ///< little-endian, as all files of the system are
 
 /// The single-byte code page, Windows-1252: each byte has a character, and a character without a byte
 /// becomes "?".

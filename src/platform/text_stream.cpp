@@ -7,8 +7,6 @@
 namespace htdrdd {
 namespace {
 
-constexpr std::string_view kByteOrderMark("\xFF\xFE", 2);
-
 /// Place of the first line feed, or npos.
 std::size_t FindLineFeed(TextView text) noexcept {
     // Byte by byte, since that search is the fast one of every C library; a byte that is half of another
@@ -26,14 +24,6 @@ std::size_t FindLineFeed(TextView text) noexcept {
 
 constexpr std::size_t kFlushed = std::size_t{1} << 16U; // units
 
-[[maybe_unused]] Text FromLittleEndian(std::string_view bytes) {
-    Text text(bytes.size() / 2, u'\0');
-    for (std::size_t i = 0; i < text.size(); ++i)
-        text[i] = static_cast<char16_t>(static_cast<unsigned char>(bytes[2 * i]) |
-                                        static_cast<unsigned char>(bytes[2 * i + 1]) << 8);
-    return text;
-}
-
 } // namespace
 
 TextReader::TextReader(FileSystem& files, TextView path, Encoding encoding, Where at)
@@ -45,11 +35,11 @@ TextReader::TextReader(FileSystem& files, TextView path, Encoding encoding, Wher
         rest_ = text_;
         return;
     }
-    if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+    if (bytes.starts_with(kUtf16Mark)) bytes.remove_prefix(kUtf16Mark.size());
     if constexpr (std::endian::native == std::endian::little) {
         rest_ = TextView(reinterpret_cast<const char16_t*>(bytes.data()), bytes.size() / 2);
     } else {
-        text_ = FromLittleEndian(bytes);
+        text_ = FromUtf16(bytes);
         rest_ = text_;
     }
 }
@@ -79,9 +69,10 @@ void TextWriter::EndLine(Where at) {
 }
 
 void TextWriter::Flush(Where at) {
-    if constexpr (std::endian::native == std::endian::big)
-        for (char16_t& unit : text_) unit = static_cast<char16_t>(unit << 8 | unit >> 8);
-    file_->Write({reinterpret_cast<const char*>(text_.data()), text_.size() * sizeof(char16_t)}, at);
+    if constexpr (std::endian::native == std::endian::little)
+        file_->Write({reinterpret_cast<const char*>(text_.data()), text_.size() * sizeof(char16_t)}, at);
+    else
+        file_->Write(ToUtf16(text_), at);
     text_.clear();
 }
 

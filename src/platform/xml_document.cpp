@@ -131,20 +131,15 @@ namespace {
 
 /// A document as UTF-8 without a byte order mark; nothing where it isn't text that can stand in XML.
 std::optional<std::string> Decoded(std::string_view bytes) {
-    const bool isLittleEndian = bytes.starts_with("\xFF\xFE");
+    const bool isLittleEndian = bytes.starts_with(kUtf16Mark);
     if (!isLittleEndian && !bytes.starts_with("\xFE\xFF")) {
-        if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+        if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
         // At a NUL the XML library would see the end.
         return bytes.find('\0') == std::string_view::npos ? std::optional<std::string>(bytes) : std::nullopt;
     }
-    bytes.remove_prefix(2);
+    bytes.remove_prefix(kUtf16Mark.size());
     if (bytes.size() % 2 != 0) return {};
-    Text text(bytes.size() / 2, u'\0');
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto first = static_cast<unsigned char>(bytes[2 * i]);
-        const auto second = static_cast<unsigned char>(bytes[2 * i + 1]);
-        text[i] = static_cast<char16_t>(isLittleEndian ? second << 8 | first : first << 8 | second);
-    }
+    const Text text = FromUtf16(bytes, isLittleEndian ? std::endian::little : std::endian::big);
     return CanStandInXml(text) ? std::optional(ToUtf8(text)) : std::nullopt;
 }
 
@@ -226,10 +221,8 @@ XmlReader::XmlReader(std::string_view bytes) : document_(std::make_unique<Docume
 
 XmlReader::~XmlReader() = default;
 
-bool XmlReader::IsOpen() const noexcept { return document_->xml != nullptr; }
-
 XmlNode XmlReader::Root(TextView name) const noexcept {
-    const xmlNode* const root = IsOpen() ? ::xmlDocGetRootElement(document_->xml.get()) : nullptr;
+    const xmlNode* const root = document_->xml ? ::xmlDocGetRootElement(document_->xml.get()) : nullptr;
     return root != nullptr && IsElementNamed(root, name) ? XmlNode(root) : XmlNode();
 }
 

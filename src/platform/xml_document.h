@@ -37,7 +37,7 @@ private:
 /// declaration says. Names in a namespace are other names than those without.
 class XmlReader {
 public:
-    /// Isn't open afterwards where the bytes are no well-formed document, or one with a document type: those
+    /// Has no root afterwards where the bytes are no well-formed document, or one with a document type: those
     /// can name other files and grow without end. Elements more than 250 deep and those with more than
     /// 500 attributes aren't read either.
     explicit XmlReader(std::string_view bytes);
@@ -45,7 +45,6 @@ public:
     XmlReader& operator=(const XmlReader&) = delete;
     ~XmlReader();
 
-    [[nodiscard]] bool IsOpen() const noexcept;
     /// The outermost element, where it has that name.
     [[nodiscard]] XmlNode Root(TextView name) const noexcept;
 
