@@ -38,20 +38,23 @@ bool Extract(FileSystem& files, ZipReader& archive, std::int32_t member, TextVie
 
 } // namespace
 
-bool clsDZip::Zip(TextView ZipName, const Array<Text>& ZipFiles, TextView EncryptStr,
+bool clsDZip::Zip(TextView ZipName, const Variant& ZipFiles, TextView EncryptStr,
                   bool NoDirectoryNames) const noexcept {
     bool result = false;
     try {
+        const Array<Variant> one({ZipFiles});
+        const Array<Variant>& names = ZipFiles.AsArray() != nullptr ? *ZipFiles.AsArray() : one;
         FileSystem& files = CurrentFileSystem();
         const Temporary temporary(basPublic::GetUniqueFileName({}, {}, {}));
         ZipWriter archive(EncryptStr);
-        for (std::int32_t l = ZipFiles.LowerBound(); l <= ZipFiles.UpperBound(); ++l) {
-            TextView name = ZipFiles.At(l);
+        for (std::int32_t l = names.LowerBound(); l <= names.UpperBound(); ++l) {
+            const Text path = names.At(l).ToText();
+            TextView name = path;
             if (NoDirectoryNames)
                 name = FileNameOf(name);
             else
                 name.remove_prefix(std::min(name.find_first_not_of(u'/'), name.size()));
-            if (!archive.Add(name, files.Read(ZipFiles.At(l)))) return false;
+            if (!archive.Add(name, files.Read(path))) return false;
         }
         const auto bytes = archive.Finish();
         if (!bytes) return false;
@@ -62,15 +65,6 @@ bool clsDZip::Zip(TextView ZipName, const Array<Text>& ZipFiles, TextView Encryp
         files.CopyFile(temporary.Path(), ZipName);
         temporary.Delete();
         result = files.FileExists(ZipName);
-    } catch (...) { ReportFailure(u"HTDRdd91 - clsDZip.Zip"); }
-    return result;
-}
-
-bool clsDZip::Zip(TextView ZipName, TextView ZipFile, TextView EncryptStr,
-                  bool NoDirectoryNames) const noexcept {
-    bool result = false;
-    try {
-        result = Zip(ZipName, Array<Text>({Text(ZipFile)}), EncryptStr, NoDirectoryNames);
     } catch (...) { ReportFailure(u"HTDRdd91 - clsDZip.Zip"); }
     return result;
 }

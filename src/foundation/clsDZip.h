@@ -4,6 +4,7 @@
 #include "platform/array.h"
 #include "platform/object.h"
 #include "platform/text.h"
+#include "platform/variant.h"
 
 #include <array>
 #include <cstdint>
@@ -16,14 +17,15 @@ class clsDZip final : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsDZip"; }
 
+    Ref<Object> dZip; ///< places for the objects of an archive service; empty, since none is needed
+    Ref<Object> dUnZip;
     bool Cancel = false; ///< only stored
 
-    /// Puts files into an archive, with a password unless EncryptStr is empty. NoDirectoryNames false stores
-    /// them under their whole paths. An old file of the archive's name is deleted when the new archive is
-    /// complete; up to there it stays as it is. Whether the archive is there at the end.
-    bool Zip(TextView ZipName, const Array<Text>& ZipFiles, TextView EncryptStr = {},
-             bool NoDirectoryNames = true) const noexcept;
-    bool Zip(TextView ZipName, TextView ZipFile, TextView EncryptStr = {},
+    /// Puts files, a name or an array of names, into an archive, with a password unless EncryptStr is empty.
+    /// NoDirectoryNames false stores them under their whole paths. An old file of the archive's name is
+    /// deleted when the new archive is complete; up to there it stays as it is. Whether the archive is there
+    /// at the end.
+    bool Zip(TextView ZipName, const Variant& ZipFiles, TextView EncryptStr = {},
              bool NoDirectoryNames = true) const noexcept;
 
     /// Takes the members of an archive out into a folder, under the last parts of their names. ExtractedFiles

@@ -17,10 +17,10 @@ void clsHTDRDDStrings::AddByOwnText(TextView item) {
     if (cut.size() == item.size())
         mItems.AddUnderOwnText(Text(item));
     else
-        mItems.Add(Text(cut), mItems.Exists(item) ? std::nullopt : std::optional(item));
+        mItems.Add(Text(cut), mItems.Exists(item) ? NewKey() : NewKey(item));
 }
 
-bool clsHTDRDDStrings::Add(TextView Item, std::optional<TextView> Key) noexcept {
+bool clsHTDRDDStrings::Add(TextView Item, const NewKey& Key) noexcept {
     bool result = false;
     try {
         mItems.Add(Text(Cut(Item)), Key);

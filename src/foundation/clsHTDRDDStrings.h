@@ -24,7 +24,7 @@ public:
 
     /// Cuts the item to MaxLength and adds it at the end, under the key if there is one. True when added. A
     /// key that is in use is a failure.
-    bool Add(TextView Item, std::optional<TextView> Key = {}) noexcept;
+    bool Add(TextView Item, const NewKey& Key = {}) noexcept;
 
     /// Adds empty items at the end until there are that many. False only after a failure.
     bool Lengthen(std::int32_t lCount) noexcept;

@@ -11,7 +11,6 @@
 
 #include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace htdrdd {
 
@@ -85,16 +84,14 @@ public:
     /// record has is failure 457.
     void Key(const Variant& vOldKey, const Variant& vNewKey) noexcept {
         try {
-            if (mRecords->Exists(vOldKey)) mRecords->SetKey(vOldKey, vNewKey);
+            if (mRecords->Exists(vOldKey)) mRecords->Key(vOldKey, vNewKey);
         } catch (...) { ReportFailure(kLocation<u"Key">); }
     }
     /// All keys from 0 on: texts, but for those that were renamed to a number.
     [[nodiscard]] Array<Variant> Keys() const noexcept {
         Array<Variant> result;
         try {
-            std::vector<Variant> keys;
-            for (const auto& entry : mRecords->Entries()) keys.push_back(entry.key);
-            result = Array<Variant>(std::move(keys));
+            result = mRecords->Keys();
         } catch (...) { ReportFailure(kLocation<u"Keys">); }
         return result;
     }

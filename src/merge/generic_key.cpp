@@ -95,7 +95,7 @@ void StartAnew(clsHTDRDDQuestion& question, std::int32_t lSubtests) {
 void TakeOverHeader(clsHTDRDD& rdd, const clsHTDRDD& generic) {
     rdd.CustomHeader = generic.CustomHeader;
     rdd.Header->RemoveAll();
-    for (const auto& [key, item] : generic.Header->Entries()) rdd.Header->SetItem(key, item);
+    for (const auto& [key, item] : generic.Header->Entries()) rdd.Header->Item(key, item);
 }
 
 /// Lays the questions of a kind over those of the definition, one after the other. False after a complaint.

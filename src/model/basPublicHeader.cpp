@@ -33,7 +33,7 @@ static_assert(kSettings.size() == 31);
 void InitializeHeader(const Ref<Dictionary>& oHeader) noexcept {
     try {
         oHeader->RemoveAll();
-        for (const Setting& setting : kSettings) oHeader->SetItem(setting.key, setting.value);
+        for (const Setting& setting : kSettings) oHeader->Item(setting.key, setting.value);
     } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.InitializeHeader"); }
 }
 

@@ -105,8 +105,8 @@ bool clsHTDRDD::GetExtraCredit(const Variant& lSubtest, std::int32_t* lNumQuesti
     return result;
 }
 
-Ref<SharedCollection<std::int32_t>> clsHTDRDD::GetSubtestQuestions(const Variant& vSubtest) const noexcept {
-    Ref<SharedCollection<std::int32_t>> result;
+Ref<NumberCollection> clsHTDRDD::GetSubtestQuestions(const Variant& vSubtest) const noexcept {
+    Ref<NumberCollection> result;
     try {
         std::int32_t position = 0;
         if (const Text* name = vSubtest.AsText()) {
@@ -118,11 +118,12 @@ Ref<SharedCollection<std::int32_t>> clsHTDRDD::GetSubtestQuestions(const Variant
         } else {
             return result;
         }
-        auto questions = Make<SharedCollection<std::int32_t>>();
+        auto questions = Make<NumberCollection>();
         if (position >= 1 && position <= Subtests->Count()) {
             for (std::int32_t l = 1; l <= Questions->Count(); ++l) {
                 const auto question = Questions->Item(l);
-                if (question->Subtests->Includes(position)) questions->Add(l, question->QuestionName);
+                if (question->Subtests->Includes(position))
+                    questions->Add(l, TextView(question->QuestionName));
             }
         }
         result = std::move(questions);

@@ -84,8 +84,7 @@ public:
     /// the question names as keys. Empty for an unknown name, for a value that is neither an integer nor a
     /// text, and after a failure, which is reported; a collection without entries for a position that isn't
     /// there.
-    [[nodiscard]] Ref<SharedCollection<std::int32_t>>
-    GetSubtestQuestions(const Variant& vSubtest) const noexcept;
+    [[nodiscard]] Ref<NumberCollection> GetSubtestQuestions(const Variant& vSubtest) const noexcept;
 
     /// Whether the test versions can be graded together: identifiers that differ, and what scrambled or
     /// standard versions demand. A type that is left out or empty becomes Versions->VType(); a type that is

@@ -81,7 +81,7 @@ std::int32_t clsHTDRDDQuestions::NextTallied(std::int32_t lCurrentPosition) cons
                 [](const Question& q) { return q.IncludeTally; });
 }
 
-void clsHTDRDDQuestions::Add(Ref<clsHTDRDDQuestion> Item, std::optional<TextView> Key, const Index& Before,
+void clsHTDRDDQuestions::Add(Ref<clsHTDRDDQuestion> Item, const NewKey& Key, const Index& Before,
                              const Index& After) noexcept {
     try {
         ObjectList::Add(std::move(Item), Key, Before, After);

@@ -32,7 +32,7 @@ public:
 
     /// Adds at the end, or before or after an entry, under the key if there is one. A key that is in use and
     /// a place that isn't there are failures; the question isn't added then.
-    void Add(Ref<clsHTDRDDQuestion> Item, std::optional<TextView> Key = {}, const Index& Before = {},
+    void Add(Ref<clsHTDRDDQuestion> Item, const NewKey& Key = {}, const Index& Before = {},
              const Index& After = {}) noexcept;
     /// A bad index is a failure. Positions behind move down by one; nothing else is adjusted.
     void Remove(const Index& Index) noexcept;

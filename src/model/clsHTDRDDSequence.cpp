@@ -5,8 +5,8 @@
 
 namespace htdrdd {
 
-void clsHTDRDDSequence::Add(std::int32_t lItem, std::optional<TextView> Key, const Index& Before,
-                            const Index& After, Where at) {
+void clsHTDRDDSequence::Add(std::int32_t lItem, const NewKey& Key, const Index& Before, const Index& After,
+                            Where at) {
     mItems.Add(lItem, Key, Before, After, at);
 }
 

@@ -17,8 +17,8 @@ public:
 
     [[nodiscard]] std::int32_t Count() const noexcept { return mItems.Count(); }
     /// Fails as the Add of every list does: 457 key in use, 9 or 5 a place that isn't there, 5 both places.
-    void Add(std::int32_t lItem, std::optional<TextView> Key = {}, const Index& Before = {},
-             const Index& After = {}, Where at = Where::current());
+    void Add(std::int32_t lItem, const NewKey& Key = {}, const Index& Before = {}, const Index& After = {},
+             Where at = Where::current());
     /// Fails with 9 for a position that isn't there.
     void Remove(std::int32_t lIndex, Where at = Where::current());
     void RemoveAll() noexcept { mItems.RemoveAll(); }

@@ -4,7 +4,7 @@
 
 namespace htdrdd {
 
-void clsHTDRDDSubtests::Add(Ref<clsHTDRDDSubtest> Item, std::optional<TextView> Key, const Index& Before,
+void clsHTDRDDSubtests::Add(Ref<clsHTDRDDSubtest> Item, const NewKey& Key, const Index& Before,
                             const Index& After) noexcept {
     try {
         ObjectList::Add(std::move(Item), Key, Before, After);

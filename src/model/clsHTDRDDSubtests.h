@@ -17,7 +17,7 @@ public:
 
     /// Adds at the end, or before or after an entry, under the key if there is one. A key that is in use and
     /// a place that isn't there are failures: reported, and nothing is added.
-    void Add(Ref<clsHTDRDDSubtest> Item, std::optional<TextView> Key = {}, const Index& Before = {},
+    void Add(Ref<clsHTDRDDSubtest> Item, const NewKey& Key = {}, const Index& Before = {},
              const Index& After = {}) noexcept;
 
     /// Position of the first subtest of a name, case counting; 0 if there is none. A failure is reported.

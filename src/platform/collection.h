@@ -28,17 +28,53 @@ public:
     Index(TextView key) : key_(key) {}
     Index(const Text& key) : key_(TextView(key)) {}
     Index(const char16_t* key) : key_(TextView(key)) {}
+    /// One that can name nothing. Nothing is there under it, and demanding what is fails with that number.
+    static Index Unusable(Err number) {
+        Index index;
+        index.isGiven_ = true;
+        index.unusable_ = number;
+        return index;
+    }
 
     /// The position, where the index is one.
     [[nodiscard]] std::int32_t Position() const noexcept { return position_; }
     /// The key, where the index is one.
     [[nodiscard]] const std::optional<TextView>& Key() const noexcept { return key_; }
     [[nodiscard]] bool IsGiven() const noexcept { return isGiven_; }
+    /// What demanding an entry fails with that isn't there.
+    [[nodiscard]] Err WhenMissing() const noexcept {
+        return unusable_.value_or(key_ ? Err::Argument : Err::Subscript);
+    }
 
 private:
-    std::int32_t position_ = 0;
+    std::int32_t position_ = 0; ///< 0 also where it is no position
     std::optional<TextView> key_;
     bool isGiven_ = true;
+    std::optional<Err> unusable_;
+};
+
+/// The key of a new entry, which refers to the text that it was made from. `{}` is none.
+class NewKey {
+public:
+    NewKey() = default;
+    NewKey(TextView key) : key_(key) {}
+    NewKey(const Text& key) : key_(TextView(key)) {}
+    NewKey(const char16_t* key) : key_(TextView(key)) {}
+    /// One that is no text: adding an entry under it fails with that number.
+    static NewKey Unusable(Err number) {
+        NewKey key;
+        key.unusable_ = number;
+        return key;
+    }
+
+    [[nodiscard]] const std::optional<TextView>& Demand(Where at) const {
+        if (unusable_) throw Failure(*unusable_, at);
+        return key_;
+    }
+
+private:
+    std::optional<TextView> key_;
+    std::optional<Err> unusable_;
 };
 
 namespace detail {
@@ -84,9 +120,10 @@ public:
 
     /// Adds at the end, or before or after an entry. Fails, and changes nothing, with 457 where the key is in
     /// use, with 5 where both places are given, and as Item does where the place isn't there.
-    void Add(T item, std::optional<TextView> key = {}, const Index& before = {}, const Index& after = {},
+    void Add(T item, const NewKey& newKey = {}, const Index& before = {}, const Index& after = {},
              Where at = Where::current()) {
         const std::size_t slot = Place(before, after, at);
+        const auto& key = newKey.Demand(at);
         if (key && FindKey(*key)) throw Failure(Err::KeyInUse, at);
         Insert(slot, {std::move(item), key ? detail::EntryKey(*key) : detail::EntryKey()}, at);
     }
@@ -213,7 +250,7 @@ private:
 
     std::size_t Find(const Index& index, Where at) const {
         if (const auto slot = Slot(index)) return *slot;
-        throw Failure(index.Key() ? Err::Argument : Err::Subscript, at);
+        throw Failure(index.WhenMissing(), at);
     }
 
     std::size_t Place(const Index& before, const Index& after, Where at) const {
@@ -244,8 +281,10 @@ private:
         slotOfKey_; ///< by folded key; made when a long list is asked for a key
 };
 
-/// A collection that is handed out by reference.
-template <class T>
-class SharedCollection final : public Object, public Collection<T> {};
+/// A collection of numbers that is handed out by reference.
+class NumberCollection final : public Object, public Collection<std::int32_t> {
+public:
+    [[nodiscard]] TextView ClassName() const noexcept override { return u"NumberCollection"; }
+};
 
 } // namespace htdrdd

@@ -50,7 +50,7 @@ const Variant& Dictionary::Item(const Variant& key, Where at) {
     return entries_[slot].item;
 }
 
-void Dictionary::SetItem(const Variant& key, Variant item, Where at) {
+void Dictionary::Item(const Variant& key, Variant item, Where at) {
     Text normal = Normal(key, at);
     if (const std::size_t slot = Find(normal); slot != kNone)
         entries_[slot].item = std::move(item);
@@ -58,7 +58,7 @@ void Dictionary::SetItem(const Variant& key, Variant item, Where at) {
         Append(std::move(normal), key, std::move(item));
 }
 
-void Dictionary::SetKey(const Variant& key, const Variant& newKey, Where at) {
+void Dictionary::Key(const Variant& key, const Variant& newKey, Where at) {
     const Text before = Normal(key, at);
     Text after = Normal(newKey, at);
     const std::size_t slot = Find(before);
@@ -81,6 +81,18 @@ void Dictionary::Remove(const Variant& key, Where at) {
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(slot));
     for (auto& [text, place] : slots_)
         if (place > slot) --place;
+}
+
+Array<Variant> Dictionary::Keys() const {
+    std::vector<Variant> keys;
+    for (const Entry& entry : entries_) keys.push_back(entry.key);
+    return Array<Variant>(std::move(keys));
+}
+
+Array<Variant> Dictionary::Items() const {
+    std::vector<Variant> items;
+    for (const Entry& entry : entries_) items.push_back(entry.item);
+    return Array<Variant>(std::move(items));
 }
 
 void Dictionary::RemoveAll() noexcept {

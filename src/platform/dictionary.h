@@ -14,6 +14,8 @@ namespace htdrdd {
 /// A dictionary with texts or numbers as keys; a text and a number are never the same key.
 class Dictionary final : public Object {
 public:
+    [[nodiscard]] TextView ClassName() const noexcept override { return u"Dictionary"; }
+
     [[nodiscard]] std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
 
     /// How text keys compare. It can be set only while the dictionary is empty (else failure 5).
@@ -25,15 +27,19 @@ public:
     /// Reads an item. An unknown key is added at the end with an empty value.
     [[nodiscard]] const Variant& Item(const Variant& key, Where at = Where::current());
     /// Assigns an item. A known key keeps its spelling and its place, an unknown one is added at the end.
-    void SetItem(const Variant& key, Variant item, Where at = Where::current());
+    void Item(const Variant& key, Variant item, Where at = Where::current());
     /// Renames a key, which keeps its place. Fails with 32811 for an unknown old key and with 457 for a new
     /// one that another entry holds.
-    void SetKey(const Variant& key, const Variant& newKey, Where at = Where::current());
+    void Key(const Variant& key, const Variant& newKey, Where at = Where::current());
     [[nodiscard]] bool Exists(const Variant& key, Where at = Where::current()) const;
     /// Fails with 32811 for an unknown key.
     void Remove(const Variant& key, Where at = Where::current());
     /// Empties the dictionary; the mode stays.
     void RemoveAll() noexcept;
+
+    /// All keys, or all items, in order, from 0 on.
+    [[nodiscard]] Array<Variant> Keys() const;
+    [[nodiscard]] Array<Variant> Items() const;
 
     struct Entry {
         Variant key;

@@ -6,9 +6,19 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <utility>
 
 namespace htdrdd {
+
+/// What outside hosts hold of an object: it ends with the object.
+class OutsideFace {
+public:
+    OutsideFace() = default;
+    OutsideFace(const OutsideFace&) = delete;
+    OutsideFace& operator=(const OutsideFace&) = delete;
+    virtual ~OutsideFace() = default;
+};
 
 /// Base of everything that can be referred to. It is made with Make, never on the stack, and ends with its
 /// last reference. An object and all references to it belong to one thread at a time.
@@ -23,18 +33,22 @@ public:
     /// The name under which outside hosts know the class; empty for classes that they don't see.
     [[nodiscard]] virtual TextView ClassName() const noexcept { return {}; }
 
+    /// The count of references, which Ref and outside faces keep. Both give what it is then.
+    std::uint32_t AddRef() const noexcept { return ++references_; }
+    std::uint32_t Release() const noexcept {
+        const std::uint32_t left = --references_;
+        if (left == 0) delete this;
+        return left;
+    }
+    /// The slot of the object's one face; empty until an outside host sees the object.
+    [[nodiscard]] std::unique_ptr<OutsideFace>& Face() const noexcept { return face_; }
+
 protected:
     virtual ~Object() = default;
 
 private:
-    template <class T>
-    friend class Ref;
-    void AddRef() const noexcept { ++references_; }
-    void Release() const noexcept {
-        if (--references_ == 0) delete this;
-    }
-
     mutable std::uint32_t references_ = 0;
+    mutable std::unique_ptr<OutsideFace> face_;
 };
 
 /// A shared reference, possibly empty. Assigning replaces the reference, nothing is copied. Using an empty
@@ -42,6 +56,7 @@ private:
 template <class T>
 class Ref {
 public:
+    using Target = T;
     Ref() = default;
     Ref(std::nullptr_t) {}
     explicit Ref(T* object) : object_(object) { Hold(); }
@@ -91,6 +106,7 @@ template <class T, class... Arguments>
 template <class T>
 class LazyRef {
 public:
+    using Target = T;
     LazyRef() = default;
     LazyRef(const LazyRef&) = delete;
     LazyRef& operator=(const LazyRef& other) { return *this = other.Made(); }

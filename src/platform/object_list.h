@@ -19,7 +19,7 @@ public:
 
     /// Adds at the end, or before or after an entry. Fails, and changes nothing, with 457 where the key is in
     /// use, with 9 or 5 where the place isn't there, and with 5 where both places are given.
-    void Add(Ref<T> Item, std::optional<TextView> Key = {}, const Index& Before = {}, const Index& After = {},
+    void Add(Ref<T> Item, const NewKey& Key = {}, const Index& Before = {}, const Index& After = {},
              Where at = Where::current()) {
         mItems.Add(std::move(Item), Key, Before, After, at);
     }

@@ -7,7 +7,8 @@
 
 namespace htdrdd {
 
-/// The folder of the shared object that holds this code, or of the program where it is linked statically.
+/// The shared object that holds this code, or the program where it is linked statically, and its folder.
+[[nodiscard]] Text ModuleFile();
 [[nodiscard]] Text ModuleFolder();
 
 /// A number that tells this running instance and thread from others.

@@ -17,10 +17,12 @@
 
 namespace htdrdd {
 
-Text ModuleFolder() {
+namespace {
+
+std::filesystem::path ModulePath() {
     Dl_info module{};
     Dl_info program{};
-    const bool known = ::dladdr(reinterpret_cast<const void*>(&ModuleFolder), &module) != 0;
+    const bool known = ::dladdr(reinterpret_cast<const void*>(&ModulePath), &module) != 0;
     // The system's entry address, the only name of the program itself that holds however it was started.
     const auto* const entry =
         reinterpret_cast<const void*>(::getauxval(AT_ENTRY)); // NOLINT(performance-no-int-to-ptr)
@@ -31,8 +33,14 @@ Text ModuleFolder() {
         file = std::filesystem::read_symlink("/proc/self/exe", error);
     else
         file = std::filesystem::absolute(module.dli_fname, error);
-    return FromNativePath(file.parent_path().native());
+    return file;
 }
+
+} // namespace
+
+Text ModuleFile() { return FromNativePath(ModulePath().native()); }
+
+Text ModuleFolder() { return FromNativePath(ModulePath().parent_path().native()); }
 
 std::uint32_t InstanceNumber() noexcept { return static_cast<std::uint32_t>(::gettid()); }
 

@@ -1,5 +1,6 @@
 #include "platform/variant.h"
 
+#include "platform/collection.h"
 #include "platform/number.h"
 
 namespace htdrdd {
@@ -51,6 +52,21 @@ Text Variant::ToText(Where at) const {
     case Kind::String: return *AsText();
     default: Refuse(*this, at);
     }
+}
+
+Index IndexOf(const Variant& value) noexcept {
+    if (value.IsMissing()) return {};
+    if (const Text* text = value.AsText()) return *text;
+    if (value.AsObject() != nullptr) return Index::Unusable(Err::TypeMismatch);
+    try {
+        return value.ToInteger32();
+    } catch (const Failure& failure) { return Index::Unusable(static_cast<Err>(failure.Number())); }
+}
+
+NewKey NewKeyOf(const Variant& value) noexcept {
+    if (value.IsMissing()) return {};
+    if (const Text* text = value.AsText()) return *text;
+    return NewKey::Unusable(Err::TypeMismatch);
 }
 
 } // namespace htdrdd

@@ -126,7 +126,7 @@ TEST_F(Faults, OfACopyGiveNone) {
 TEST_F(Faults, OfHeaderFilesLeaveAnOldOneOrAWholeOne) {
     const std::string settings = "[Header]\r\nOWN=1\r\n";
     rdd->Header->RemoveAll();
-    rdd->Header->SetItem(u"OWN", u"1");
+    rdd->Header->Item(u"OWN", u"1");
     for (const std::string& old : {settings, Unicode(FromUtf8(settings)) + "x"}) {
         Sweep(
             old, [&] { return rdd->SaveHeader(kTarget); },
@@ -146,7 +146,7 @@ TEST_F(Faults, OfHeaderFilesLeaveAnOldOneOrAWholeOne) {
                 EXPECT_EQ(files.files.size(), 1U);
             });
         rdd->Header->RemoveAll();
-        rdd->Header->SetItem(u"OWN", u"1");
+        rdd->Header->Item(u"OWN", u"1");
     }
 }
 

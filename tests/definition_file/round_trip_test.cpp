@@ -156,7 +156,7 @@ private:
         for (Text line : lines(*before)) {
             Cut(line);
             const std::size_t equals = line.find(u'=');
-            rdd.Header->SetItem(Trimmed(line.substr(0, equals)), line.substr(equals + 1));
+            rdd.Header->Item(Trimmed(line.substr(0, equals)), line.substr(equals + 1));
         }
         seen |= lines(*rdd.Header) != lines(*before);
     }

@@ -159,12 +159,13 @@ TEST_F(DefinitionWriter, AsksBeforeItSavesInvalidVersions) {
 class ArchivedDefinition : public DefinitionWriter {
 protected:
     bool ReadPacked(const std::vector<std::string>& texts, TextView password = {}) {
-        std::vector<Text> names;
+        std::vector<Variant> names;
         for (const std::string& text : texts) {
-            names.push_back(u"/" + DecimalText(static_cast<std::int64_t>(names.size())));
-            files.files[names.back()] = text;
+            const Text name = u"/" + DecimalText(static_cast<std::int64_t>(names.size()));
+            files.files[name] = text;
+            names.emplace_back(name);
         }
-        EXPECT_TRUE(Make<clsDZip>()->Zip(u"/exam.rdd", Array<Text>(std::move(names)), password));
+        EXPECT_TRUE(Make<clsDZip>()->Zip(u"/exam.rdd", Array<Variant>(std::move(names)), password));
         return rdd->Read(u"/exam.rdd");
     }
 };
@@ -235,15 +236,15 @@ TEST_F(ArchivedDefinition, NeverGivesOtherDataFromADamagedOne) {
 }
 
 TEST_F(DefinitionWriter, HeaderSettingsGoThroughAFileOfTheirOwn) {
-    rdd->Header->SetItem(u"_r1c1_fld_text", u" a=b ");
-    rdd->Header->SetItem(u"own", u"1");
+    rdd->Header->Item(u"_r1c1_fld_text", u" a=b ");
+    rdd->Header->Item(u"own", u"1");
     const Text told = Told(*rdd);
     files.files[u"/header"] = "[header]\r\n_HEADER_COLS=1\r\n\r\n_HEADER_COLS=2\r\n";
     EXPECT_TRUE(rdd->SaveHeader(u"/header") && rdd->SaveHeader(u"/header"));
     EXPECT_EQ(files.files.size(), 2U) << "a backup of the single bytes, and nothing else";
     EXPECT_TRUE(files.files[u"/header"].starts_with(Unicode(u"[Header]\r\n_R1C1_FLD_TEXT= a=b \r\n")));
     EXPECT_TRUE(files.files[u"/header"].ends_with(Unicode(u"\nown=1\r\n").substr(2)));
-    rdd->Header->SetItem(u"more", u"1");
+    rdd->Header->Item(u"more", u"1");
     EXPECT_TRUE(rdd->LoadHeader(u"/header"));
     EXPECT_EQ(Told(*rdd), told);
 
@@ -252,7 +253,7 @@ TEST_F(DefinitionWriter, HeaderSettingsGoThroughAFileOfTheirOwn) {
     EXPECT_EQ(rdd->Header->Item(u"_HEADER_COLS").ToText(), u"1") << "a blank line ends it";
     files.files[u"/other"] = "[Headers]\r\nkey=1\r\n";
     for (const TextView file : {u"/other", u"/none"}) {
-        rdd->Header->SetItem(u"_HEADER_COLS", u"1");
+        rdd->Header->Item(u"_HEADER_COLS", u"1");
         EXPECT_FALSE(rdd->LoadHeader(file));
         EXPECT_EQ(rdd->Header->Item(u"_HEADER_COLS").ToText(), u"3") << "defaults";
     }

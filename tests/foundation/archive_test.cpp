@@ -43,7 +43,7 @@ protected:
 TEST_F(Archives, AreMadeOfFilesAndTakenApart) {
     const auto zip = Make<clsDZip>();
     files.files = {{u"/in/one", "1"}, {u"/two", "2"}, {u"/a.zip", "old"}};
-    EXPECT_TRUE(zip->Zip(u"/a.zip", Array<Text>({u"/in/one", u"/two"}, 5), u"secret"));
+    EXPECT_TRUE(zip->Zip(u"/a.zip", Array<Variant>({u"/in/one", u"/two"}, 5), u"secret"));
     EXPECT_EQ(files.files.size(), 3U) << "the temporary archive is gone";
     EXPECT_EQ(UnZip(u"Secret"), "false 0:  =");
     EXPECT_EQ(UnZip(), "false 0:  =");
@@ -54,9 +54,9 @@ TEST_F(Archives, AreMadeOfFilesAndTakenApart) {
     EXPECT_EQ(UnZip(), "true 1: one| = one=1 two=2");
 
     const std::string archive = files.files[u"/a.zip"];
-    EXPECT_FALSE(zip->Zip(u"/a.zip", Array<Text>({u"/two", u"/two"}))) << "two members of one name";
+    EXPECT_FALSE(zip->Zip(u"/a.zip", Array<Variant>({u"/two", u"/two"}))) << "two members of one name";
     EXPECT_FALSE(zip->Zip(u"/a.zip", u"/none"));
-    EXPECT_FALSE(zip->Zip(u"/a.zip", Array<Text>()));
+    EXPECT_FALSE(zip->Zip(u"/a.zip", Array<Variant>()));
     EXPECT_EQ(Heard(), (Said{"53 File not found @ clsDZip.Zip", kSubscript + "clsDZip.Zip"}));
     EXPECT_EQ(files.files[u"/a.zip"], archive) << "what was there stays";
 }

@@ -73,17 +73,17 @@ TEST(CollectionTest, AgreesWithAPlainListWhateverItsLength) {
 TEST(DictionaryTest, KeepsTheOrderAndSpellingOfFirstInsertion) {
     const auto header = Make<Dictionary>();
     header->CompareMode(Compare::IgnoreCase);
-    header->SetItem(u"Rows", u"1");
-    header->SetItem(u"Cols", u"2");
-    header->SetItem(u"ROWS", u"3");
+    header->Item(u"Rows", u"1");
+    header->Item(u"Cols", u"2");
+    header->Item(u"ROWS", u"3");
     EXPECT_EQ(header->Item(u"new").Is(), Variant::Kind::Empty) << "reading adds";
-    header->SetKey(u"cols", u"COLUMNS");
-    header->SetKey(u"rows", u"ROWS");
+    header->Key(u"cols", u"COLUMNS");
+    header->Key(u"rows", u"ROWS");
     header->Add(1, u"a number");
     EXPECT_EQ(header->Item(1.0).ToText(), u"a number") << "one number, whatever its kind";
     EXPECT_EQ(FailureOf([&] { header->Add(u"NEW", u""); }), 457);
-    EXPECT_EQ(FailureOf([&] { header->SetKey(u"new", u"rows"); }), 457);
-    EXPECT_EQ(FailureOf([&] { header->SetKey(u"none", u"rows"); }), 32811);
+    EXPECT_EQ(FailureOf([&] { header->Key(u"new", u"rows"); }), 457);
+    EXPECT_EQ(FailureOf([&] { header->Key(u"none", u"rows"); }), 32811);
     EXPECT_EQ(FailureOf([&] { header->CompareMode(Compare::Exact); }), 5);
     header->Remove(u"new");
     EXPECT_FALSE(header->Exists(u"new") || header->Exists(u"cols") || header->Exists(u"1"));

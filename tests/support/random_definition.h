@@ -25,7 +25,7 @@ public:
         for (std::int32_t left = Below(4) + (generic_ ? 1 : 0); left > 0; --left) {
             const TextView key = OneOf<TextView>({u"OWN", u"own", u"_header_cols", u"_R1C1_FLD_TEXT"});
             const TextView odd = OneOf<TextView>({u" a ", u"A", u"a=b", u"", u"\t", u" _r1c1_fld_text"});
-            rdd_->Header->SetItem(Rarely() ? odd : key, OddText());
+            rdd_->Header->Item(Rarely() ? odd : key, OddText());
         }
         for (std::int32_t left = wild_ ? Below(4) : 1 + Below(3); left > 0; --left) {
             const auto subtest = Make<clsHTDRDDSubtest>();

@@ -1,0 +1,59 @@
+#include "component/class_factory.h"
+
+#include "component/living.h"
+
+#include <algorithm>
+#include <new>
+
+namespace htdrdd {
+namespace {
+
+class ClassFactory final : public IClassFactory {
+public:
+    explicit ClassFactory(const ClassRow& row) noexcept : row_(row) {}
+
+    HRESULT QueryInterface(REFIID riid, void** ppvObject) noexcept override {
+        if (ppvObject == nullptr) return E_POINTER;
+        *ppvObject = riid == IID_IUnknown || riid == IID_IClassFactory ? this : nullptr;
+        if (*ppvObject == nullptr) return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG AddRef() noexcept override { return ++references_; }
+    ULONG Release() noexcept override {
+        const ULONG left = --references_;
+        if (left == 0) delete this;
+        return left;
+    }
+    HRESULT CreateInstance(IUnknown* pUnkOuter, REFIID riid, void** ppvObject) noexcept override {
+        if (ppvObject == nullptr) return E_POINTER;
+        *ppvObject = nullptr;
+        return pUnkOuter != nullptr ? CLASS_E_NOAGGREGATION : CreateObject(row_, riid, ppvObject);
+    }
+    HRESULT LockServer(BOOL fLock) noexcept override {
+        livingOutside += fLock != 0 ? 1 : -1;
+        return S_OK;
+    }
+
+private:
+    virtual ~ClassFactory() = default;
+
+    std::atomic<ULONG> references_{0}; // factories may be shared by threads
+    const ClassRow& row_;
+};
+
+} // namespace
+
+HRESULT GiveFactory(REFCLSID rclsid, REFIID riid, void** result) noexcept {
+    if (result == nullptr) return E_POINTER;
+    *result = nullptr;
+    const auto classes = Classes();
+    const auto found = std::find_if(classes.begin(), classes.end(), [&](const ClassRow& row) {
+        return row.isCreatable && *row.identifier == rclsid;
+    });
+    if (found == classes.end()) return CLASS_E_CLASSNOTAVAILABLE;
+    const Com<IClassFactory> factory(new (std::nothrow) ClassFactory(*found));
+    return factory ? factory->QueryInterface(riid, result) : E_OUTOFMEMORY;
+}
+
+} // namespace htdrdd

@@ -1,0 +1,76 @@
+/// References to objects outside, and to their texts.
+#pragma once
+
+#include "component/interfaces.h"
+#include "platform/failure.h"
+#include "platform/text.h"
+
+#include <utility>
+
+namespace htdrdd {
+
+/// A counted reference to an outside object, perhaps empty.
+template <class T>
+class Com {
+public:
+    Com() = default;
+    explicit Com(T* object) noexcept : object_(object) {
+        if (object_ != nullptr) object_->AddRef();
+    }
+    Com(const Com& other) noexcept : Com(other.object_) {}
+    Com(Com&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+    Com& operator=(Com other) noexcept {
+        std::swap(object_, other.object_);
+        return *this;
+    }
+    ~Com() {
+        if (object_ != nullptr) object_->Release();
+    }
+    /// Takes over a reference that was counted already.
+    static Com Adopt(T* object) noexcept {
+        Com com;
+        com.object_ = object;
+        return com;
+    }
+    /// The same object by another interface; empty where it has none such.
+    template <class U>
+    static Com Of(U* other, const GUID& iid = kIid<T>) noexcept {
+        void* found = nullptr;
+        if (other != nullptr && SUCCEEDED(other->QueryInterface(iid, &found)))
+            return Adopt(static_cast<T*>(found));
+        return {};
+    }
+
+    [[nodiscard]] T* Get() const noexcept { return object_; }
+    /// Gives the reference away.
+    [[nodiscard]] T* Detach() noexcept { return std::exchange(object_, nullptr); }
+    T* operator->() const noexcept { return object_; }
+    explicit operator bool() const noexcept { return object_ != nullptr; }
+
+private:
+    T* object_ = nullptr;
+};
+
+/// The units of a text; they last as long as it does.
+[[nodiscard]] inline TextView View(BSTR text) noexcept { return {text, SysStringLen(text)}; }
+
+/// A new text, to be freed by whoever gets it. Fails with 7.
+[[nodiscard]] BSTR NewBstr(TextView text);
+
+/// A text that is freed at the end.
+class Bstr {
+public:
+    Bstr() = default;
+    explicit Bstr(TextView text) : text_(NewBstr(text)) {}
+    Bstr(const Bstr&) = delete;
+    Bstr& operator=(const Bstr&) = delete;
+    ~Bstr() { SysFreeString(text_); }
+    [[nodiscard]] BSTR Get() const noexcept { return text_; }
+    /// For whoever writes the text.
+    [[nodiscard]] BSTR* Place() noexcept { return &text_; }
+
+private:
+    BSTR text_ = nullptr;
+};
+
+} // namespace htdrdd

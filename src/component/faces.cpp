@@ -1,0 +1,31 @@
+#include "component/face.h"
+#include "foundation/clsDZip.h"
+#include "grade_scales/clsHTDGradeScaleManager.h"
+#include "model/clsHTDRDD.h"
+#include "scaled_scores/clsHTDScaledScoreManager.h"
+
+namespace htdrdd {
+namespace {
+
+template <class Class>
+Ref<Object> MakeObject() {
+    return Make<Class>();
+}
+template <class Face, class Class>
+std::unique_ptr<ObjectFace> MakeFace(Object& object, const ClassRow& row) {
+    return std::make_unique<Face>(static_cast<Class&>(object), row);
+}
+template <auto Raised>
+Event& EventOf(Object& object) {
+    return [&]<class Class>(Event Class::*event) -> Event& {
+        return static_cast<Class&>(object).*event;
+    }(Raised);
+}
+
+#include "component/faces.inc"
+
+} // namespace
+
+std::span<const ClassRow> Classes() noexcept { return kClasses; }
+
+} // namespace htdrdd

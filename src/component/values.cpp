@@ -1,0 +1,251 @@
+#include "component/values.h"
+
+#include "component/classes.h"
+#include "component/foreign_object.h"
+#include "component/living.h"
+#include "platform/number.h"
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace htdrdd {
+namespace {
+
+/// Asks a face of this library for its object. Other libraries in the process, and other copies of this one,
+/// don't answer to it.
+const GUID& ObjectIdentifier() noexcept {
+    static const GUID identifier = [] {
+        GUID made{0x6D2C41E5, 0x90B3, 0x4D7A, {}};
+        const void* const own = &livingOutside;
+        static_assert(sizeof own == sizeof made.Data4);
+        std::memcpy(static_cast<void*>(made.Data4), static_cast<const void*>(&own), sizeof own);
+        return made;
+    }();
+    return identifier;
+}
+
+Variant Whole(std::int64_t value) {
+    if (value >= std::numeric_limits<std::int32_t>::min() &&
+        value <= std::numeric_limits<std::int32_t>::max())
+        return static_cast<std::int32_t>(value);
+    return static_cast<double>(value);
+}
+
+} // namespace
+
+BSTR NewBstr(TextView text) {
+    if (text.size() > std::numeric_limits<std::int32_t>::max()) throw Failure(Err::Memory);
+    BSTR made = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    if (made == nullptr) throw Failure(Err::Memory);
+    return made;
+}
+
+IDispatch& FaceOf(Object& object) {
+    auto& slot = object.Face();
+    if (!slot) {
+        const ClassRow* const row = FindClass(object.ClassName());
+        if (row == nullptr) throw Failure(Err::TypeMismatch);
+        slot = row->face(object, *row);
+    }
+    return static_cast<ObjectFace&>(*slot).Dispatch();
+}
+
+HRESULT GiveBehind(Object& object, REFIID riid, void** result) noexcept {
+    if (!(riid == ObjectIdentifier())) return E_NOINTERFACE;
+    object.AddRef();
+    *result = &object;
+    return S_OK;
+}
+
+Ref<Object> OwnObject(IUnknown* face) noexcept {
+    void* found = nullptr;
+    if (face == nullptr || FAILED(face->QueryInterface(ObjectIdentifier(), &found))) return {};
+    Ref<Object> object(static_cast<Object*>(found));
+    object->Release(); // the reference that the question counted
+    return object;
+}
+
+Ref<Object> ObjectFrom(IUnknown* object) {
+    if (object == nullptr) return {};
+    if (Ref<Object> own = OwnObject(object)) return own;
+    auto dispatch = Com<IDispatch>::Of(object);
+    if (!dispatch) throw Failure(Err::TypeMismatch);
+    return Make<ForeignObject>(std::move(dispatch));
+}
+
+IDispatch* ObjectOut(const Ref<Object>& object) {
+    if (!object) return nullptr;
+    const auto* const foreign = dynamic_cast<const ForeignObject*>(object.Get());
+    IDispatch& dispatch = foreign != nullptr ? foreign->Outside() : FaceOf(*object);
+    dispatch.AddRef();
+    return &dispatch;
+}
+
+const VARIANT& Behind(const VARIANT& value) noexcept {
+    return value.vt == (VT_BYREF | VT_VARIANT) && value.pvarVal != nullptr ? *value.pvarVal : value;
+}
+
+Variant ValueFrom(const VARIANT& value) {
+    if ((value.vt & VT_BYREF) != 0) {
+        if (value.byref == nullptr) throw Failure(Err::TypeMismatch);
+        VARIANT direct = Behind(value);
+        if ((direct.vt & VT_BYREF) != 0) { // what it refers to, as if it held that itself
+            direct.vt = static_cast<VARTYPE>(direct.vt & ~VT_BYREF);
+            if (direct.vt == VT_VARIANT || direct.byref == nullptr) throw Failure(Err::TypeMismatch);
+            std::memcpy(&direct.llVal, direct.byref, SizeOfKind(direct.vt));
+        }
+        return ValueFrom(direct);
+    }
+    if ((value.vt & VT_ARRAY) != 0) return ArrayFrom(value.parray);
+    switch (value.vt) {
+    case VT_EMPTY: return Variant::Empty();
+    case VT_NULL: return Variant::Null();
+    case VT_BOOL: return value.boolVal != VARIANT_FALSE;
+    case VT_I1: return static_cast<std::int16_t>(value.cVal);
+    case VT_UI1: return static_cast<std::int16_t>(value.bVal);
+    case VT_I2: return value.iVal;
+    case VT_UI2: return static_cast<std::int32_t>(value.uiVal);
+    case VT_I4:
+    case VT_INT: return value.lVal;
+    case VT_UI4:
+    case VT_UINT: return Whole(value.ulVal);
+    case VT_I8: return Whole(value.llVal);
+    case VT_UI8:
+        return value.ullVal <= INT32_MAX ? Whole(value.llVal) : Variant(static_cast<double>(value.ullVal));
+    case VT_R4: return static_cast<double>(value.fltVal);
+    case VT_R8:
+    case VT_DATE: return value.dblVal;
+    case VT_CY: return static_cast<double>(value.llVal) / 10000;
+    case VT_BSTR: return Text(View(value.bstrVal));
+    case VT_DISPATCH:
+    case VT_UNKNOWN: return ObjectFrom(value.punkVal);
+    case VT_ERROR:
+        if (value.scode == DISP_E_PARAMNOTFOUND) return {};
+        [[fallthrough]];
+    default: throw Failure(Err::TypeMismatch);
+    }
+}
+
+void ValueOut(VARIANT& to, const Variant& value) {
+    VARIANT made{};
+    switch (value.Is()) {
+    case Variant::Kind::Missing:
+        made.scode = DISP_E_PARAMNOTFOUND;
+        made.vt = VT_ERROR;
+        break;
+    case Variant::Kind::Empty: made.vt = VT_EMPTY; break;
+    case Variant::Kind::Null: made.vt = VT_NULL; break;
+    case Variant::Kind::Boolean:
+        made.boolVal = value.ToBoolean() ? VARIANT_TRUE : VARIANT_FALSE;
+        made.vt = VT_BOOL;
+        break;
+    case Variant::Kind::Integer16:
+        made.iVal = value.ToInteger16();
+        made.vt = VT_I2;
+        break;
+    case Variant::Kind::Integer32:
+        made.lVal = value.ToInteger32();
+        made.vt = VT_I4;
+        break;
+    case Variant::Kind::Double:
+        made.dblVal = value.ToDouble();
+        made.vt = VT_R8;
+        break;
+    case Variant::Kind::String:
+        made.bstrVal = NewBstr(*value.AsText());
+        made.vt = VT_BSTR;
+        break;
+    case Variant::Kind::Reference:
+        made.pdispVal = ObjectOut(*value.AsObject());
+        made.vt = VT_DISPATCH;
+        break;
+    case Variant::Kind::Values:
+        made.parray = ArrayOut(*value.AsArray(), VT_VARIANT);
+        made.vt = VT_ARRAY | VT_VARIANT;
+        break;
+    }
+    to = made;
+}
+
+void Convert(const Variant& value, Text& to) { to = value.ToText(); }
+void Convert(const Variant& value, std::int32_t& to) { to = value.ToInteger32(); }
+void Convert(const Variant& value, bool& to) { to = value.ToBoolean(); }
+
+Array<Variant> ArrayFrom(SAFEARRAY* array) {
+    if (array == nullptr) return {};
+    if (SafeArrayGetDim(array) != 1) throw Failure(Err::Subscript);
+    VARIANT element{};
+    if (FAILED(SafeArrayGetVartype(array, &element.vt))) throw Failure(Err::TypeMismatch);
+    const auto [count, lowerBound] = array->rgsabound[0];
+    const bool isVariant = element.vt == VT_VARIANT;
+    const std::size_t size = array->cbElements;
+    if (size != SizeOfKind(element.vt)) throw Failure(Err::TypeMismatch);
+    std::vector<Variant> items;
+    items.reserve(count);
+    const auto* place = static_cast<const char*>(array->pvData);
+    for (ULONG n = 0; n < count; ++n, place += size) {
+        std::memcpy(isVariant ? static_cast<void*>(&element) : &element.llVal, place, size);
+        items.push_back(ValueFrom(element));
+    }
+    return Array<Variant>(std::move(items), lowerBound);
+}
+
+SAFEARRAY* ArrayOut(const Array<Variant>& array, VARTYPE type) {
+    if (!array.HasStorage()) return nullptr;
+    SAFEARRAYBOUND bound{static_cast<ULONG>(array.Items().size()), array.LowerBound()};
+    SAFEARRAY* const made = SafeArrayCreate(type, 1, &bound);
+    if (made == nullptr) throw Failure(Err::Memory);
+    try {
+        auto* place = static_cast<char*>(made->pvData);
+        for (const Variant& item : array.Items()) {
+            VARIANT element{}; // moved into its place
+            ValueOut(element, item, type);
+            std::memcpy(place, type == VT_VARIANT ? static_cast<void*>(&element) : &element.llVal,
+                        made->cbElements);
+            place += made->cbElements;
+        }
+    } catch (...) {
+        SafeArrayDestroy(made);
+        throw;
+    }
+    return made;
+}
+
+void ValueOut(VARIANT& to, const Variant& value, VARTYPE kind) {
+    switch (kind) {
+    case VT_VARIANT: return ValueOut(to, value);
+    case VT_I2: return ValueOut(to, value.ToInteger16());
+    case VT_I4:
+    case VT_INT: return ValueOut(to, value.ToInteger32());
+    case VT_R8: return ValueOut(to, value.ToDouble());
+    case VT_BOOL: return ValueOut(to, value.ToBoolean());
+    case VT_BSTR: return ValueOut(to, value.ToText());
+    case VT_DISPATCH:
+        if (value.Is() == Variant::Kind::Empty) return ValueOut(to, Ref<Object>());
+        if (value.AsObject() == nullptr) throw Failure(Err::TypeMismatch);
+        return ValueOut(to, value);
+    default: break;
+    }
+    if ((kind & VT_ARRAY) == 0 || value.AsArray() == nullptr) throw Failure(Err::TypeMismatch);
+    VARIANT made{};
+    made.parray = ArrayOut(*value.AsArray(), static_cast<VARTYPE>(kind & VT_TYPEMASK));
+    made.vt = kind;
+    to = made;
+}
+
+void AssignTo(const VARIANT& variable, const Variant& value) {
+    if (variable.byref == nullptr) return;
+    OwnVariant made;
+    const auto kind = static_cast<VARTYPE>(variable.vt & ~VT_BYREF);
+    ValueOut(made.Get(), value, kind);
+    if (kind == VT_VARIANT) return std::swap(*variable.pvarVal, made.Get());
+    // Exchanged, so that what the variable held ends with the variant.
+    std::array<char, sizeof(VARIANT::llVal)> held{};
+    const std::size_t size = SizeOfKind(kind);
+    std::memcpy(held.data(), variable.byref, size);
+    std::memcpy(variable.byref, &made.Get().llVal, size);
+    std::memcpy(&made.Get().llVal, held.data(), size);
+}
+
+} // namespace htdrdd
