@@ -8,8 +8,9 @@ namespace htdrdd {
 namespace {
 
 // A plain pointer for each thread: on some targets thread-local objects with destructors crash when a thread
-// ends. The key only serves to be told of that end.
-thread_local ThreadState* state = nullptr;
+// ends. The key only serves to be told of that end. The pointer lies in the room that is kept for libraries
+// loaded at run time: it is reached at once, and leak checkers look there.
+[[gnu::tls_model("initial-exec")]] thread_local ThreadState* state = nullptr;
 
 extern "C" void EndOfThread(void* ended) {
     const std::unique_ptr<ThreadState> owner(static_cast<ThreadState*>(ended));
