@@ -1,0 +1,299 @@
+// What Python hosts can't see of the component: kinds of arguments, classes that they don't reach, memory.
+#include "component/class_factory.h"
+#include "component/classes.h"
+#include "component/failures.h"
+#include "component/foreign_object.h"
+#include "component/living.h"
+#include "component/registration.h"
+#include "foundation/clsDZip.h"
+#include "platform/process.h"
+#include "support/session.h"
+
+namespace htdrdd::test {
+namespace {
+
+VARIANT By(VARTYPE kind, void* variable) {
+    VARIANT value{};
+    value.vt = static_cast<VARTYPE>(VT_BYREF | kind);
+    value.byref = variable;
+    return value;
+}
+
+/// An outside host object. It keeps the kinds of what it gets, and fails with what it is told to.
+class Outsider final : public IDispatch {
+public:
+    HRESULT result = S_OK;
+    EXCEPINFO failure{};
+    std::string kinds;
+    std::function<void(DISPPARAMS&)> whenCalled;
+
+    HRESULT QueryInterface(REFIID riid, void** ppvObject) override {
+        *ppvObject = riid == IID_IUnknown || riid == IID_IDispatch ? this : nullptr;
+        if (*ppvObject == nullptr) return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG AddRef() override { return ++references; }
+    ULONG Release() override { return --references; }
+    HRESULT GetTypeInfoCount(UINT* /*pctinfo*/) override { return E_NOTIMPL; }
+    HRESULT GetTypeInfo(UINT /*i*/, LCID /*lcid*/, ITypeInfo** /*ppTInfo*/) override { return E_NOTIMPL; }
+    HRESULT GetIDsOfNames(REFIID /*riid*/, LPOLESTR* names, UINT /*n*/, LCID /*lcid*/, DISPID* ids) override {
+        ids[0] = TextView(names[0]) == u"Silent" ? 1 : 2;
+        return TextView(names[0]) == u"Nothing" ? DISP_E_UNKNOWNNAME : S_OK;
+    }
+    HRESULT Invoke(DISPID id, REFIID /*riid*/, LCID /*lcid*/, WORD flags, DISPPARAMS* arguments,
+                   VARIANT* returned, EXCEPINFO* told, UINT* /*refused*/) override {
+        if (id == 1) {
+            if (flags != DISPATCH_PROPERTYPUT) ValueOut(*returned, false);
+            return S_OK;
+        }
+        kinds.clear();
+        for (UINT n = arguments->cArgs; n-- > 0;) kinds += std::to_string(arguments->rgvarg[n].vt) + " ";
+        if (whenCalled) whenCalled(*arguments);
+        *told = failure;
+        if (failure.bstrDescription != nullptr)
+            told->bstrDescription = NewBstr(View(failure.bstrDescription));
+        return result;
+    }
+    ULONG references = 0;
+};
+
+class Component : public Session {
+protected:
+    /// Calls a member by name with arguments from the first to the last.
+    HRESULT Call(Object& object, Text name, WORD flags, std::vector<VARIANTARG> arguments,
+                 VARIANT* result = nullptr, EXCEPINFO* told = nullptr) {
+        std::reverse(arguments.begin(), arguments.end());
+        LPOLESTR names = name.data();
+        DISPID id = 0;
+        IDispatch& face = FaceOf(object);
+        EXPECT_EQ(face.GetIDsOfNames(GUID{}, &names, 1, 0, &id), S_OK) << ToUtf8(name);
+        DISPID put = DISPID_PROPERTYPUT;
+        const bool isPut = flags == DISPATCH_PROPERTYPUT;
+        DISPPARAMS parameters{arguments.data(), &put, static_cast<UINT>(arguments.size()), isPut ? 1U : 0U};
+        refused = 99;
+        return face.Invoke(id, GUID{}, 0, flags, &parameters, result, told, &refused);
+    }
+    UINT refused = 99;
+    Outsider outsider;
+    const std::int32_t alive = livingOutside;
+
+    ~Component() override {
+        rdd = nullptr;
+        ThisThread().errorHost = nullptr;
+        EXPECT_EQ(livingOutside, alive);
+        EXPECT_EQ(outsider.references, 0U);
+    }
+};
+
+TEST_F(Component, VariablesOfAnyKindGetWhatAMemberWrites) {
+    rdd->Subtests->Add(Make<clsHTDRDDSubtest>()); // without questions: ValidateSubtests writes its position
+    const auto validate = [&](VARIANT argument) {
+        OwnVariant result;
+        const HRESULT outcome = Call(*rdd, u"ValidateSubtests", DISPATCH_METHOD, {argument}, &result.Get());
+        EXPECT_EQ(result.Get().vt, SUCCEEDED(outcome) ? VT_BOOL : VT_EMPTY);
+        EXPECT_EQ(result.Get().boolVal, VARIANT_FALSE);
+        return outcome;
+    };
+    LONG whole = 7;
+    SHORT small = 7;
+    double real = 7;
+    EXPECT_EQ(validate(By(VT_I4, &whole)), S_OK);
+    EXPECT_EQ(validate(By(VT_I2, &small)), S_OK);
+    EXPECT_EQ(validate(By(VT_R8, &real)), S_OK);
+    EXPECT_EQ(whole + small + real, 3);
+
+    BSTR text = NewBstr(u"5");
+    EXPECT_EQ(validate(By(VT_BSTR, &text)), S_OK);
+    EXPECT_EQ(View(text), u"1");
+    EXPECT_EQ(validate(By(VT_BSTR, &text)), S_OK) << "nothing changes";
+    SysFreeString(std::exchange(text, NewBstr(u"none")));
+    EXPECT_EQ(validate(By(VT_BSTR, &text)), DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(refused, 0U);
+    SysFreeString(text);
+
+    OwnVariant value{Variant(7)};
+    EXPECT_EQ(validate(By(VT_VARIANT, &value.Get())), S_OK);
+    OwnVariant empty;
+    EXPECT_EQ(validate(By(VT_VARIANT, &empty.Get())), S_OK);
+    EXPECT_EQ(value.Get().lVal + empty.Get().lVal, 2);
+    EXPECT_EQ(value.Get().vt + empty.Get().vt, 2 * VT_I4);
+    EXPECT_EQ(validate(value.Get()), S_OK);
+
+    OwnVariant number{Variant(0)};
+    real = 1;
+    const auto question = Make<clsHTDRDDQuestion>();
+    question->ExtraCredit = question->IncludeGrade = true;
+    question->Subtests->Add(true);
+    rdd->Questions->Add(question);
+    EXPECT_EQ(Call(*rdd, u"GetExtraCredit", DISPATCH_METHOD,
+                   {OwnVariant(Variant(1)).Get(), By(VT_VARIANT, &number.Get()), By(VT_R8, &real)}),
+              S_OK);
+    EXPECT_EQ(number.Get().lVal, 1);
+    EXPECT_EQ(real, 0);
+}
+
+TEST_F(Component, CallsThatDontFitAreRefused) {
+    const auto sequence = Make<clsHTDRDDSequence>();
+    VARIANT nine{};
+    ValueOut(nine, 9);
+    VARIANT large{};
+    ValueOut(large, 1e10);
+    EXPECT_EQ(Call(*rdd, u"Clear", DISPATCH_METHOD, {nine}), DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(Call(*rdd, u"Read", DISPATCH_METHOD, {}), DISP_E_PARAMNOTOPTIONAL);
+    EXPECT_EQ(Call(*rdd, u"Version", DISPATCH_PROPERTYPUT, {nine}), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(Call(*rdd, u"Questions", DISPATCH_PROPERTYPUT, {nine}), DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(Call(*sequence, u"Item", DISPATCH_PROPERTYPUT, {large, nine}), DISP_E_OVERFLOW);
+    EXPECT_EQ(refused, 1U) << "counted from the last argument";
+
+    // What a routine would have failed with itself, it reports: its own failures don't reach the host.
+    OwnVariant result;
+    EXPECT_EQ(Call(*rdd->Questions, u"Remove", DISPATCH_METHOD, {nine}), S_OK);
+    VARIANT file{};
+    ValueOut(file, u"x");
+    const auto strings = Make<clsHTDRDDStrings>();
+    EXPECT_EQ(Call(*strings, u"Add", DISPATCH_METHOD, {file, nine}, &result.Get()), S_OK);
+    EXPECT_EQ(result.Get().boolVal, VARIANT_FALSE);
+    VariantClear(&file);
+    EXPECT_EQ(Heard(),
+              (Said{kSubscript + "clsHTDRDDQuestions.Remove", kTypeMismatch + "clsHTDRDDStrings.Add"}));
+
+    EXCEPINFO told{};
+    EXPECT_EQ(Call(*sequence, u"Remove", DISPATCH_METHOD, {nine}, nullptr, &told), DISP_E_EXCEPTION);
+    EXPECT_EQ(told.scode, ToHresult(0x800A0009));
+    EXPECT_EQ(View(told.bstrSource), u"HTDRdd91");
+    EXPECT_EQ(View(told.bstrDescription), u"Subscript out of range");
+    EXPECT_EQ(FailureOutside(DISP_E_EXCEPTION, told).Number(), 9);
+
+    auto& slots = static_cast<_clsHTDRDDSequence&>(FaceOf(*sequence));
+    EXPECT_EQ(slots.Remove(9), ToHresult(0x800A0009));
+    IErrorInfo* info = nullptr;
+    ASSERT_EQ(GetErrorInfo(0, &info), S_OK);
+    Bstr text;
+    info->GetDescription(text.Place());
+    info->Release();
+    EXPECT_EQ(View(text.Get()), u"Subscript out of range");
+    EXPECT_EQ(GetErrorInfo(0, &info), S_FALSE) << "it is told once";
+    EXPECT_EQ(slots.get_Count(nullptr), E_POINTER);
+}
+
+TEST_F(Component, OutsideHostsGetEachArgumentInItsKind) {
+    rdd->SetError(Make<ForeignObject>(Com<IDispatch>(&outsider)));
+    rdd->Questions->Remove(1);
+    EXPECT_EQ(outsider.kinds,
+              "16387 16387 16392 16392 16392 16392 16392 16392 16387 16392 16392 16392 16395 ");
+    rdd->SetError({});
+
+    const auto foreign = Make<ForeignObject>(Com<IDispatch>(&outsider));
+    outsider.whenCalled = [](DISPPARAMS& arguments) {
+        BSTR& text = *arguments.rgvarg[1].pbstrVal;
+        SysFreeString(std::exchange(text, NewBstr(u"told")));
+        AssignTo(arguments.rgvarg[0], u"any");
+    };
+    std::array arguments{Variant(), Variant(u"asked"), Variant::Empty()};
+    foreign->Call(u"MsgBoxEx", arguments);
+    EXPECT_EQ(outsider.kinds, "10 16392 16396 ");
+    EXPECT_EQ(arguments[1].ToText() + arguments[2].ToText(), u"toldany");
+    outsider.whenCalled = nullptr;
+
+    const auto failure = [&](HRESULT result, SCODE scode = 0, WORD code = 0) {
+        Bstr text(u"own words");
+        outsider.result = result;
+        outsider.failure = {};
+        outsider.failure.scode = scode;
+        outsider.failure.wCode = code;
+        outsider.failure.bstrDescription = result == DISP_E_EXCEPTION ? text.Get() : nullptr;
+        try {
+            foreign->Call(u"RaiseError", {});
+        } catch (const Failure& failed) {
+            return std::to_string(failed.Number()) + " " + ToUtf8(failed.Text());
+        }
+        return std::string();
+    };
+    EXPECT_EQ(failure(DISP_E_EXCEPTION, ToHresult(0x800A0035)), "53 own words");
+    EXPECT_EQ(failure(DISP_E_EXCEPTION, 0, 1004), "1004 own words");
+    EXPECT_EQ(failure(DISP_E_MEMBERNOTFOUND), "438 Object doesn't support this property or method");
+    EXPECT_EQ(failure(DISP_E_BADPARAMCOUNT).substr(0, 4), "450 ");
+    EXPECT_EQ(failure(E_FAIL), "-2147467259 Application-defined or object-defined error");
+    EXPECT_THROW(foreign->Call(u"Nothing", {}), Failure);
+}
+
+TEST_F(Component, ArchivesAreReachedThroughTheirFace) {
+    const auto zip = Make<clsDZip>();
+    auto& face = static_cast<_clsDZip&>(FaceOf(*zip));
+    files.files = {{u"/one", "1"}, {u"/two", "2"}};
+    OwnVariant names{Variant(Array<Variant>({u"/one", u"/two"}, 3))};
+    Bstr archive(u"/a.zip");
+    Bstr folder(u"/out");
+    Bstr password(u"secret");
+    files.folders.insert(u"/out");
+    VARIANT_BOOL isDone = VARIANT_FALSE;
+    EXPECT_EQ(face.Zip(archive.Get(), names.Get(), password.Get(), VARIANT_TRUE, &isDone), S_OK);
+    EXPECT_EQ(isDone, VARIANT_TRUE);
+
+    SAFEARRAY* extracted = nullptr;
+    LONG count = 9;
+    EXPECT_EQ(face.UnZip(archive.Get(), folder.Get(), &extracted, &count, password.Get(), VARIANT_TRUE,
+                         VARIANT_TRUE, VARIANT_TRUE, &isDone),
+              S_OK);
+    EXPECT_EQ(Join(ArrayOf<Text>(extracted), u"|"), u"one|two");
+    EXPECT_EQ(count, 2);
+    SafeArrayDestroy(extracted);
+    EXPECT_EQ(face.putref_dZip(&outsider), S_OK);
+    IDispatch* kept = nullptr;
+    EXPECT_EQ(face.get_dZip(&kept), S_OK);
+    EXPECT_EQ(kept, &outsider);
+    kept->Release();
+    void* factory = nullptr;
+    EXPECT_EQ(GiveFactory(CLSID_clsDZip, IID_IClassFactory, &factory), CLASS_E_CLASSNOTAVAILABLE);
+}
+
+TEST(OutsideArrays, HoldTheirElements) {
+    std::array bounds{SAFEARRAYBOUND{2, 1}, SAFEARRAYBOUND{3, -1}};
+    SAFEARRAY* array = SafeArrayCreate(VT_BSTR, 2, bounds.data());
+    ASSERT_NE(array, nullptr);
+    std::array<LONG, 2> place{2, 1};
+    const Bstr text(TextView(u"a\0b", 3));
+    EXPECT_EQ(SafeArrayPutElement(array, place.data(), text.Get()), S_OK);
+    EXPECT_EQ(SafeArrayPutElement(array, place.data(), text.Get()), S_OK) << "the one that was there ends";
+    SAFEARRAY* copy = nullptr;
+    EXPECT_EQ(SafeArrayCopy(array, &copy), S_OK);
+    EXPECT_EQ(SafeArrayDestroy(array), S_OK);
+    Bstr found;
+    EXPECT_EQ(SafeArrayGetElement(copy, place.data(), static_cast<void*>(found.Place())), S_OK);
+    EXPECT_EQ(View(found.Get()), TextView(u"a\0b", 3));
+    LONG upper = 0;
+    EXPECT_EQ(SafeArrayGetUBound(copy, 1, &upper) + upper, 2);
+    EXPECT_EQ(SafeArrayGetUBound(copy, 2, &upper) + upper, 1);
+    place[0] = 3;
+    EXPECT_EQ(SafeArrayGetElement(copy, place.data(), &upper), DISP_E_BADINDEX);
+    EXPECT_THROW(static_cast<void>(ArrayFrom(copy)), Failure) << "lists have one dimension";
+    void* data = nullptr;
+    EXPECT_EQ(SafeArrayAccessData(copy, &data), S_OK);
+    EXPECT_EQ(SafeArrayDestroy(copy), DISP_E_ARRAYISLOCKED);
+    EXPECT_EQ(SafeArrayUnaccessData(copy), S_OK);
+    EXPECT_EQ(SafeArrayDestroy(copy), S_OK);
+}
+
+TEST_F(Component, TheManifestTellsTheClasses) {
+    const Text path = BuildPath(ModuleFolder(), u"HTDRdd91.manifest");
+    files.folders.insert(ModuleFolder());
+    EXPECT_EQ(WriteManifest(), S_OK);
+    const std::string& written = files.files[path];
+    EXPECT_NE(
+        written.find("<class progid=\"HTDRdd91.clsHTDRDD\" clsid=\"{FE91C6A3-6D62-4CF3-9E16-FB01B1A18596}\" "
+                     "interface=\"{32184884-5C37-4141-8AFB-E37707660BC5}\" "
+                     "events=\"{0B1A1EA7-0E3C-4E0D-9372-4E8A77F26FFB}\" threadingModel=\"Apartment\" "
+                     "creatable=\"true\" global=\"true\"/>"),
+        std::string::npos)
+        << written;
+    EXPECT_NE(written.find("library=\"" + ToUtf8(ModuleFile()) + "\""), std::string::npos);
+    EXPECT_EQ(DeleteManifest(), S_OK);
+    EXPECT_EQ(files.files.count(path), 0U);
+    EXPECT_EQ(DeleteManifest(), S_OK);
+    files.folders.erase(ModuleFolder());
+    EXPECT_EQ(WriteManifest(), ToHresult(0x800A004C)) << "path not found";
+}
+
+} // namespace
+} // namespace htdrdd::test
