@@ -86,7 +86,7 @@ class Member:
 
     def row(self, interface):
         parameters = ", ".join(v.row() for v in self.parameters)
-        return (f'    Member{{{self.id}, u"{self.name}", DISPATCH_{FLAGS[self.direction]}, '
+        return (f'    {{{self.id}, u"{self.name}", DISPATCH_{FLAGS[self.direction]}, '
                 f'{self.result.vt if self.result else "VT_EMPTY"}, '
                 f'&Late<&{interface}::{self.slot}, {"true" if self.result else "false"}>::Call, {{{parameters}}}}},')
 
@@ -104,19 +104,19 @@ def main(source, target):
         out += [f"class {name}Face final : public Face<{interface}, {name}> {{", f"    using C = {name};", "",
                 "public:", "    using Face::Face;"]
         out += [m.override() for m in members]
-        out += ["};", f"constexpr std::array k{name}Members{{"]
+        out += ["};", f"constexpr Member k{name}Members[]{{"]
         out += [m.row(interface) for m in members]
         out += ["};", ""]
 
     events = dict(re.findall(r"dispinterface (__\w+) \{ properties: methods: \[id\(1\)\] void (\w+)\(\);", text))
     classes = {c: (a, b) for a, c, b in re.findall(r"\[([^\]]*)\] coclass (\w+) \{(.*?)\}", text)}
     assert set(classes) <= set(names)
-    out += ["constexpr std::array kClasses{"]
+    out += ["constexpr ClassRow kClasses[]{"]
     for name in names:
         attributes, body = classes.get(name, ("noncreatable", ""))
         source_of = re.search(r"source\] dispinterface (\w+)", body)
         event = source_of and events[source_of.group(1)]
-        out += [f'    ClassRow{{u"{name}", {"&CLSID_" + name if name in classes else "nullptr"}, &IID__{name}, '
+        out += [f'    {{u"{name}", {"&CLSID_" + name if name in classes else "nullptr"}, &IID__{name}, '
                 f'{"&DIID_" + source_of.group(1) if event else "nullptr"}, '
                 f'{f"&EventOf<&{name}::{event}>" if event else "nullptr"}, '
                 f'{"false" if "noncreatable" in attributes else "true"}, '
