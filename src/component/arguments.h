@@ -18,7 +18,7 @@ concept Number = std::is_arithmetic_v<T> || std::is_enum_v<T>;
 template <class T>
 [[nodiscard]] Ref<T> Referred(IUnknown* outside) {
     if (outside == nullptr) return {};
-    const Ref<Object> object = ObjectFrom(outside);
+    Ref<Object> object = ObjectFrom(outside);
     if constexpr (std::is_same_v<T, Object>) {
         return object;
     } else {

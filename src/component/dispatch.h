@@ -192,7 +192,7 @@ private:
             if constexpr (std::is_same_v<decltype(value), VARIANT>) {
                 result = value;
             } else {
-                std::memcpy(&result.llVal, &value, sizeof value);
+                std::memcpy(&result.llVal, &value, SizeOfKind(member.result));
                 result.vt = member.result;
             }
         } else {

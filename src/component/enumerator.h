@@ -43,7 +43,9 @@ template <class Interface, class Out, class Item>
 class Enumerator final : public Interface {
 public:
     using Items = std::shared_ptr<const std::vector<Item>>;
-    explicit Enumerator(Items items, std::size_t next = 0) noexcept : items_(std::move(items)), next_(next) {}
+    static Com<Interface> Made(Items items, std::size_t next = 0) {
+        return Com<Interface>(new Enumerator(std::move(items), next));
+    }
 
     HRESULT QueryInterface(REFIID riid, void** ppvObject) noexcept override {
         if (ppvObject == nullptr) return E_POINTER;
@@ -81,11 +83,11 @@ public:
     HRESULT Clone(Interface** result) noexcept override {
         if (result == nullptr) return E_POINTER;
         *result = nullptr;
-        return Guarded(
-            [&] { *result = Com<Interface>(new Enumerator<Interface, Out, Item>(items_, next_)).Detach(); });
+        return Guarded([&] { *result = Made(items_, next_).Detach(); });
     }
 
 private:
+    Enumerator(Items items, std::size_t next) noexcept : items_(std::move(items)), next_(next) {}
     virtual ~Enumerator() = default;
 
     Items items_;
@@ -107,9 +109,8 @@ HRESULT Enumerate(Result** result, const Make& items) noexcept {
         auto made = items();
         using Item = typename decltype(made)::value_type;
         using Out = decltype(OutOfNext(&Interface::Next));
-        using Kind = Enumerator<Interface, Out, Item>;
         auto shared = std::make_shared<const std::vector<Item>>(std::move(made));
-        *result = Com<Interface>(new Kind(std::move(shared))).Detach();
+        *result = Enumerator<Interface, Out, Item>::Made(std::move(shared)).Detach();
     });
 }
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-// NOLINTBEGIN(modernize-use-using, modernize-avoid-c-arrays): the names and layouts are those of C
+// NOLINTBEGIN(modernize-use-using, modernize-avoid-c-arrays, bugprone-reserved-identifier): as C has them
 
 using BOOL = int;
 using WORD = std::uint16_t;
@@ -362,4 +362,4 @@ HRESULT GetErrorInfo(ULONG dwReserved, IErrorInfo** pperrinfo);
 HRESULT SetErrorInfo(ULONG dwReserved, IErrorInfo* perrinfo);
 }
 
-// NOLINTEND(modernize-use-using, modernize-avoid-c-arrays)
+// NOLINTEND(modernize-use-using, modernize-avoid-c-arrays, bugprone-reserved-identifier)
