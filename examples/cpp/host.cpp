@@ -114,7 +114,7 @@ private:
     VARIANT_BOOL silent_ = VARIANT_FALSE;
 };
 
-void Run(const Component& component, const std::u16string& path) {
+bool Run(const Component& component, const std::u16string& path) {
     Host host(component);
     IClassFactory* made = nullptr;
     component.Check(
@@ -135,7 +135,8 @@ void Run(const Component& component, const std::u16string& path) {
     std::printf("Read: %s\n", isFine != VARIANT_FALSE ? "yes" : "no");
 
     LONG flagged = -1;
-    component.Check(rdd->ValidateKey(VARIANT_TRUE, &flagged, nullptr, nullptr, &isFine));
+    if (isFine != VARIANT_FALSE)
+        component.Check(rdd->ValidateKey(VARIANT_TRUE, &flagged, nullptr, nullptr, &isFine));
     std::printf("Can be graded with: %s\n", isFine != VARIANT_FALSE ? "yes" : "no");
 
     _clsHTDRDDQuestions* list = nullptr;
@@ -156,7 +157,9 @@ void Run(const Component& component, const std::u16string& path) {
     }
 
     registered = nullptr;
-    component.Check(rdd->SetError(&registered, &isFine)); // the host object ends before the thread does
+    VARIANT_BOOL isRegistered = VARIANT_TRUE;
+    component.Check(rdd->SetError(&registered, &isRegistered)); // the host object ends before the thread does
+    return isFine != VARIANT_FALSE;
 }
 
 } // namespace
@@ -168,8 +171,7 @@ int main(int argc, char** argv) {
     }
     try {
         const Component component(argv[1]);
-        Run(component, std::filesystem::path(argv[2]).u16string());
-        return 0;
+        return Run(component, std::filesystem::path(argv[2]).u16string()) ? 0 : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

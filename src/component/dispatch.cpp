@@ -9,10 +9,12 @@ namespace {
 
 bool IsPut(WORD flags) noexcept { return (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0; }
 
-/// Properties are read as methods are called, and either way of assigning fits both kinds.
+/// Properties may also be called as methods, since many hosts can't tell; either way of assigning fits both
+/// kinds. Who only wants to read a property doesn't run a method.
 const Member* FindMember(std::span<const Member> members, DISPID id, WORD flags) noexcept {
     const auto found = std::find_if(members.begin(), members.end(), [&](const Member& member) {
-        return member.id == id && IsPut(member.kind) == IsPut(flags);
+        const bool isRead = flags == DISPATCH_PROPERTYGET && member.kind == DISPATCH_METHOD;
+        return member.id == id && IsPut(member.kind) == IsPut(flags) && (!isRead || id == DISPID_NEWENUM);
     });
     return found != members.end() ? &*found : nullptr;
 }
