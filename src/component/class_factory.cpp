@@ -8,23 +8,10 @@
 namespace htdrdd {
 namespace {
 
-class ClassFactory final : public IClassFactory {
+class ClassFactory final : public Counted<ClassFactory, IClassFactory> {
 public:
     explicit ClassFactory(const ClassRow& row) noexcept : row_(row) {}
 
-    HRESULT QueryInterface(REFIID riid, void** ppvObject) noexcept override {
-        if (ppvObject == nullptr) return E_POINTER;
-        *ppvObject = riid == IID_IUnknown || riid == IID_IClassFactory ? this : nullptr;
-        if (*ppvObject == nullptr) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG AddRef() noexcept override { return ++references_; }
-    ULONG Release() noexcept override {
-        const ULONG left = --references_;
-        if (left == 0) delete this;
-        return left;
-    }
     HRESULT CreateInstance(IUnknown* pUnkOuter, REFIID riid, void** ppvObject) noexcept override {
         if (ppvObject == nullptr) return E_POINTER;
         *ppvObject = nullptr;
@@ -36,9 +23,6 @@ public:
     }
 
 private:
-    virtual ~ClassFactory() = default;
-
-    std::atomic<ULONG> references_{0}; // factories may be shared by threads
     const ClassRow& row_;
 };
 

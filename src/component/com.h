@@ -5,6 +5,7 @@
 #include "platform/failure.h"
 #include "platform/text.h"
 
+#include <atomic>
 #include <utility>
 
 namespace htdrdd {
@@ -49,6 +50,34 @@ public:
 
 private:
     T* object_ = nullptr;
+};
+
+/// What an object asks for of itself: whether it has an interface. `ppvObject` gets it, counted.
+template <class Interface>
+HRESULT GiveInterface(Interface* object, REFIID riid, void** ppvObject) noexcept {
+    if (ppvObject == nullptr) return E_POINTER;
+    *ppvObject = riid == IID_IUnknown || riid == kIid<Interface> ? object : nullptr;
+    if (*ppvObject == nullptr) return E_NOINTERFACE;
+    object->AddRef();
+    return S_OK;
+}
+
+/// An object of one interface that counts its references and ends with the last. It is made without any.
+template <class Self, class Interface>
+class Counted : public Interface {
+public:
+    HRESULT QueryInterface(REFIID riid, void** ppvObject) noexcept final {
+        return GiveInterface<Interface>(this, riid, ppvObject);
+    }
+    ULONG AddRef() noexcept final { return ++references_; }
+    ULONG Release() noexcept final {
+        const ULONG left = --references_;
+        if (left == 0) delete static_cast<Self*>(this);
+        return left;
+    }
+
+private:
+    std::atomic<ULONG> references_{0}; // factories may be shared by threads
 };
 
 /// The units of a text; they last as long as it does.

@@ -17,11 +17,7 @@ void Tell(IDispatch& sink) {
 } // namespace
 
 HRESULT ConnectionPoint::QueryInterface(REFIID riid, void** ppvObject) noexcept {
-    if (ppvObject == nullptr) return E_POINTER;
-    *ppvObject = riid == IID_IUnknown || riid == kIid<IConnectionPoint> ? this : nullptr;
-    if (*ppvObject == nullptr) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
+    return GiveInterface<IConnectionPoint>(this, riid, ppvObject);
 }
 
 HRESULT ConnectionPoint::GetConnectionInterface(IID* pIID) noexcept {

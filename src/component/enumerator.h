@@ -40,25 +40,11 @@ inline void ItemOut(CONNECTDATA& to, const Connection& item) {
 }
 
 template <class Interface, class Out, class Item>
-class Enumerator final : public Interface {
+class Enumerator final : public Counted<Enumerator<Interface, Out, Item>, Interface> {
 public:
     using Items = std::shared_ptr<const std::vector<Item>>;
     static Com<Interface> Made(Items items, std::size_t next = 0) {
         return Com<Interface>(new Enumerator(std::move(items), next));
-    }
-
-    HRESULT QueryInterface(REFIID riid, void** ppvObject) noexcept override {
-        if (ppvObject == nullptr) return E_POINTER;
-        *ppvObject = riid == IID_IUnknown || riid == kIid<Interface> ? this : nullptr;
-        if (*ppvObject == nullptr) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG AddRef() noexcept override { return ++references_; }
-    ULONG Release() noexcept override {
-        const ULONG left = --references_;
-        if (left == 0) delete this;
-        return left;
     }
 
     HRESULT Next(ULONG count, Out* to, ULONG* fetched) noexcept override {
@@ -88,11 +74,9 @@ public:
 
 private:
     Enumerator(Items items, std::size_t next) noexcept : items_(std::move(items)), next_(next) {}
-    virtual ~Enumerator() = default;
 
     Items items_;
     std::size_t next_;
-    ULONG references_ = 0;
     [[no_unique_address]] Living living_;
 };
 

@@ -11,27 +11,18 @@ namespace {
 constexpr std::uint32_t kFailures = 0x800A0000; ///< where the results of failure numbers lie
 
 HRESULT ResultOf(std::int32_t number) noexcept {
-    if (number > 0 && number <= 0xFFFF) return ToHresult(kFailures | static_cast<std::uint32_t>(number));
+    if (number > 0 && number <= 0xFFFF)
+        return static_cast<HRESULT>(kFailures | static_cast<std::uint32_t>(number));
     return number < 0 ? number : E_FAIL;
 }
 
 /// What a member failed with, for hosts that call members through their slots.
-class FailureInfo final : public IErrorInfo {
+class FailureInfo final : public Counted<FailureInfo, IErrorInfo> {
 public:
-    FailureInfo(BSTR text) noexcept : text_(text) {}
-    HRESULT QueryInterface(REFIID riid, void** ppvObject) noexcept override {
-        if (ppvObject == nullptr) return E_POINTER;
-        *ppvObject = riid == IID_IUnknown || riid == kIid<IErrorInfo> ? this : nullptr;
-        if (*ppvObject == nullptr) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG AddRef() noexcept override { return ++references_; }
-    ULONG Release() noexcept override {
-        const ULONG left = --references_;
-        if (left == 0) delete this;
-        return left;
-    }
+    explicit FailureInfo(BSTR text) noexcept : text_(text) {}
+    FailureInfo(const FailureInfo&) = delete;
+    FailureInfo& operator=(const FailureInfo&) = delete;
+    ~FailureInfo() { SysFreeString(text_); }
     HRESULT GetGUID(GUID* pGUID) noexcept override { return Give(pGUID, GUID{}); }
     HRESULT GetSource(BSTR* pBstrSource) noexcept override { return GiveText(pBstrSource, kLibraryName); }
     HRESULT GetDescription(BSTR* pBstrDescription) noexcept override {
@@ -41,7 +32,6 @@ public:
     HRESULT GetHelpContext(DWORD* pdwHelpContext) noexcept override { return Give(pdwHelpContext, DWORD{}); }
 
 private:
-    virtual ~FailureInfo() { SysFreeString(text_); }
     template <class T>
     static HRESULT Give(T* to, T value) noexcept {
         if (to == nullptr) return E_POINTER;
@@ -54,7 +44,6 @@ private:
         return *to != nullptr ? S_OK : E_OUTOFMEMORY;
     }
 
-    ULONG references_ = 0;
     BSTR text_;
 };
 
