@@ -1,6 +1,7 @@
 /// Arguments and results between the slots of interfaces and the members of classes.
 #pragma once
 
+#include "component/foreign_object.h"
 #include "component/values.h"
 #include "platform/collection.h"
 
@@ -14,7 +15,8 @@ namespace htdrdd {
 template <class T>
 concept Number = std::is_arithmetic_v<T> || std::is_enum_v<T>;
 
-/// The object of a class behind an outside one. Fails with 13 for an object of another class.
+/// The object of a class behind an outside one, or with LateBound any that can be called by name. Fails with
+/// 13 for an object of another class.
 template <class T>
 [[nodiscard]] Ref<T> Referred(IUnknown* outside) {
     if (outside == nullptr) return {};
@@ -23,6 +25,8 @@ template <class T>
         return object;
     } else {
         Ref<T> referred(dynamic_cast<T*>(object.Get()));
+        if constexpr (std::is_same_v<T, LateBound>)
+            if (!referred) referred = Make<ForeignObject>(Com<IDispatch>(&FaceOf(*object)));
         if (!referred) throw Failure(Err::TypeMismatch);
         return referred;
     }
@@ -160,7 +164,7 @@ private:
     T value_{};
 };
 
-/// Objects of the library, or with LateBound any that can be called by name.
+/// Objects.
 template <class T, class A>
 class Argument<const Ref<T>&, A> {
 public:

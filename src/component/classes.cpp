@@ -1,6 +1,7 @@
 #include "component/classes.h"
 
 #include "component/failures.h"
+#include "component/objects.h"
 #include "foundation/version.h"
 #include "platform/thread_state.h"
 

@@ -43,6 +43,7 @@ HRESULT WriteManifest() noexcept {
         xml.Attribute(u"version", FromUtf8(kRelease));
         xml.Attribute(u"library", ModuleFile());
         xml.Attribute(u"typeLibrary", IdentifierText(LIBID_HTDRdd91));
+        xml.Attribute(u"typeLibraryVersion", u"17.1");
         for (const ClassRow& row : Classes()) {
             if (row.identifier == nullptr) continue;
             xml.Begin(u"class");

@@ -1,8 +1,5 @@
 #include "component/values.h"
 
-#include "component/classes.h"
-#include "component/foreign_object.h"
-#include "component/living.h"
 #include "platform/number.h"
 
 #include <array>
@@ -11,19 +8,6 @@
 
 namespace htdrdd {
 namespace {
-
-/// Asks a face of this library for its object. Other libraries in the process, and other copies of this one,
-/// don't answer to it.
-const GUID& ObjectIdentifier() noexcept {
-    static const GUID identifier = [] {
-        GUID made{0x6D2C41E5, 0x90B3, 0x4D7A, {}};
-        const void* const own = &livingOutside;
-        static_assert(sizeof own == sizeof made.Data4);
-        std::memcpy(static_cast<void*>(made.Data4), static_cast<const void*>(&own), sizeof own);
-        return made;
-    }();
-    return identifier;
-}
 
 Variant Whole(std::int64_t value) {
     if (value >= std::numeric_limits<std::int32_t>::min() &&
@@ -39,47 +23,6 @@ BSTR NewBstr(TextView text) {
     BSTR made = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
     if (made == nullptr) throw Failure(Err::Memory);
     return made;
-}
-
-IDispatch& FaceOf(Object& object) {
-    auto& slot = object.Face();
-    if (!slot) {
-        const ClassRow* const row = FindClass(object.ClassName());
-        if (row == nullptr) throw Failure(Err::TypeMismatch);
-        slot = row->face(object, *row);
-    }
-    return static_cast<ObjectFace&>(*slot).Dispatch();
-}
-
-HRESULT GiveBehind(Object& object, REFIID riid, void** result) noexcept {
-    if (!(riid == ObjectIdentifier())) return E_NOINTERFACE;
-    object.AddRef();
-    *result = &object;
-    return S_OK;
-}
-
-Ref<Object> OwnObject(IUnknown* face) noexcept {
-    void* found = nullptr;
-    if (face == nullptr || FAILED(face->QueryInterface(ObjectIdentifier(), &found))) return {};
-    Ref<Object> object(static_cast<Object*>(found));
-    object->Release(); // the reference that the question counted
-    return object;
-}
-
-Ref<Object> ObjectFrom(IUnknown* object) {
-    if (object == nullptr) return {};
-    if (Ref<Object> own = OwnObject(object)) return own;
-    auto dispatch = Com<IDispatch>::Of(object);
-    if (!dispatch) throw Failure(Err::TypeMismatch);
-    return Make<ForeignObject>(std::move(dispatch));
-}
-
-IDispatch* ObjectOut(const Ref<Object>& object) {
-    if (!object) return nullptr;
-    const auto* const foreign = dynamic_cast<const ForeignObject*>(object.Get());
-    IDispatch& dispatch = foreign != nullptr ? foreign->Outside() : FaceOf(*object);
-    dispatch.AddRef();
-    return &dispatch;
 }
 
 const VARIANT& Behind(const VARIANT& value) noexcept {

@@ -1,0 +1,68 @@
+#include "component/objects.h"
+
+#include "component/classes.h"
+#include "component/foreign_object.h"
+#include "component/living.h"
+
+#include <cstring>
+
+namespace htdrdd {
+namespace {
+
+/// Asks a face of this library for its object. Other libraries in the process, and other copies of this one,
+/// don't answer to it.
+const GUID& ObjectIdentifier() noexcept {
+    static const GUID identifier = [] {
+        GUID made{0x6D2C41E5, 0x90B3, 0x4D7A, {}};
+        const void* const own = &livingOutside;
+        static_assert(sizeof own == sizeof made.Data4);
+        std::memcpy(static_cast<void*>(made.Data4), static_cast<const void*>(&own), sizeof own);
+        return made;
+    }();
+    return identifier;
+}
+
+} // namespace
+
+IDispatch& FaceOf(Object& object) {
+    auto& slot = object.Face();
+    if (!slot) {
+        const ClassRow* const row = FindClass(object.ClassName());
+        if (row == nullptr) throw Failure(Err::TypeMismatch);
+        slot = row->face(object, *row);
+    }
+    return static_cast<ObjectFace&>(*slot).Dispatch();
+}
+
+HRESULT GiveBehind(Object& object, REFIID riid, void** result) noexcept {
+    if (!(riid == ObjectIdentifier())) return E_NOINTERFACE;
+    object.AddRef();
+    *result = &object;
+    return S_OK;
+}
+
+Ref<Object> OwnObject(IUnknown* face) noexcept {
+    void* found = nullptr;
+    if (face == nullptr || FAILED(face->QueryInterface(ObjectIdentifier(), &found))) return {};
+    Ref<Object> object(static_cast<Object*>(found));
+    object->Release(); // the reference that the question counted
+    return object;
+}
+
+Ref<Object> ObjectFrom(IUnknown* object) {
+    if (object == nullptr) return {};
+    if (Ref<Object> own = OwnObject(object)) return own;
+    auto dispatch = Com<IDispatch>::Of(object);
+    if (!dispatch) throw Failure(Err::TypeMismatch);
+    return Make<ForeignObject>(std::move(dispatch));
+}
+
+IDispatch* ObjectOut(const Ref<Object>& object) {
+    if (!object) return nullptr;
+    const auto* const foreign = dynamic_cast<const ForeignObject*>(object.Get());
+    IDispatch& dispatch = foreign != nullptr ? foreign->Outside() : FaceOf(*object);
+    dispatch.AddRef();
+    return &dispatch;
+}
+
+} // namespace htdrdd
