@@ -52,20 +52,21 @@ private:
 };
 
 /// Variables that both sides see alike; null where they were left out.
-template <Number T>
-class Argument<T*, T*> {
+template <Number T, Number A>
+requires(sizeof(T) == sizeof(A)) class Argument<T*, A*> {
 public:
-    explicit Argument(T* variable) noexcept : variable_(variable) {}
+    explicit Argument(A* variable) noexcept : variable_(reinterpret_cast<T*>(variable)) {}
     [[nodiscard]] T* Value() const noexcept { return variable_; }
     void Return() const noexcept {}
 
 private:
     T* variable_;
 };
-template <Number T>
-class Argument<T&, T*> {
+template <Number T, Number A>
+requires(sizeof(T) == sizeof(A)) class Argument<T&, A*> {
 public:
-    explicit Argument(T* variable) noexcept : variable_(variable != nullptr ? variable : &none_) {}
+    explicit Argument(A* variable) noexcept
+        : variable_(variable != nullptr ? reinterpret_cast<T*>(variable) : &none_) {}
     [[nodiscard]] T& Value() const noexcept { return *variable_; }
     void Return() const noexcept {}
 
@@ -244,7 +245,7 @@ inline NaturalValue Natural(const VARIANT& value) { return NaturalValue(ValueFro
 inline NaturalValue Natural(const VARIANT* value) {
     return NaturalValue(value != nullptr ? ValueFrom(*value) : Variant());
 }
-inline std::int32_t Natural(LONG value) noexcept { return value; }
+inline std::int32_t Natural(LONG value) noexcept { return static_cast<std::int32_t>(value); }
 
 /// The parameters of a member function, less the one that tells the caller's line.
 template <class F>

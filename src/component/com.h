@@ -6,6 +6,8 @@
 #include "platform/text.h"
 
 #include <atomic>
+#include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace htdrdd {
@@ -80,11 +82,25 @@ private:
     std::atomic<ULONG> references_{0}; // factories may be shared by threads
 };
 
-/// The units of a text; they last as long as it does.
-[[nodiscard]] inline TextView View(BSTR text) noexcept { return {text, SysStringLen(text)}; }
+/// The units of a text, or of a name that ends with a 0; they last as long as it does.
+[[nodiscard]] inline TextView View(BSTR text) noexcept {
+    return {reinterpret_cast<const char16_t*>(text), SysStringLen(text)};
+}
+[[nodiscard]] inline TextView NameView(LPCOLESTR name) noexcept {
+    return reinterpret_cast<const char16_t*>(name);
+}
 
-/// A new text, to be freed by whoever gets it. Fails with 7.
-[[nodiscard]] BSTR NewBstr(TextView text);
+/// A new text, to be freed by whoever gets it; null where there is no memory.
+[[nodiscard]] inline BSTR TryNewBstr(TextView text) noexcept {
+    if (text.size() > std::numeric_limits<std::int32_t>::max()) return nullptr;
+    return SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text.data()), static_cast<UINT>(text.size()));
+}
+/// The same, which fails with 7.
+[[nodiscard]] inline BSTR NewBstr(TextView text) {
+    BSTR made = TryNewBstr(text);
+    if (made == nullptr) throw Failure(Err::Memory);
+    return made;
+}
 
 /// A text that is freed at the end.
 class Bstr {

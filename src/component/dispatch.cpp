@@ -92,13 +92,13 @@ HRESULT FindNames(std::span<const Member> members, LPOLESTR* names, UINT count, 
     if (count == 0) return S_OK;
     HRESULT result = DISP_E_UNKNOWNNAME;
     for (const Member& member : members) {
-        if (!SameText(member.name, names[0])) continue;
+        if (!SameText(member.name, NameView(names[0]))) continue;
         ids[0] = member.id;
         result = S_OK;
         for (UINT n = 1; n < count; ++n) {
-            const auto* const found =
-                std::find_if(member.parameters.begin(), member.parameters.end(),
-                             [&](const Parameter& parameter) { return SameText(parameter.name, names[n]); });
+            const auto* const found = std::find_if(
+                member.parameters.begin(), member.parameters.end(),
+                [&](const Parameter& parameter) { return SameText(parameter.name, NameView(names[n])); });
             if (found != member.parameters.end())
                 ids[n] = static_cast<DISPID>(found - member.parameters.begin());
             else

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <concepts>
+#include <cstring>
 #include <initializer_list>
 #include <span>
 #include <tuple>

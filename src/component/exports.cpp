@@ -21,13 +21,13 @@ HRESULT DllUnregisterServer() { return DeleteManifest(); }
 HRESULT HTDRddCreateObject(LPCOLESTR className, REFIID riid, void** ppv) {
     if (className == nullptr || ppv == nullptr) return E_POINTER;
     *ppv = nullptr;
-    const ClassRow* const row = FindClass(className);
+    const ClassRow* const row = FindClass(NameView(className));
     return row != nullptr && row->isCreatable ? CreateObject(*row, riid, ppv) : CLASS_E_CLASSNOTAVAILABLE;
 }
 
 HRESULT HTDRddGlobalObject(LPCOLESTR className, REFIID riid, void** ppv) {
     if (className == nullptr || ppv == nullptr) return E_POINTER;
     *ppv = nullptr;
-    const ClassRow* const row = FindClass(className);
+    const ClassRow* const row = FindClass(NameView(className));
     return row != nullptr && row->isGlobal ? GlobalObject(*row, riid, ppv) : CLASS_E_CLASSNOTAVAILABLE;
 }

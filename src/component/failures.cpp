@@ -40,7 +40,7 @@ private:
     }
     static HRESULT GiveText(BSTR* to, TextView text) noexcept {
         if (to == nullptr) return E_POINTER;
-        *to = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+        *to = TryNewBstr(text);
         return *to != nullptr ? S_OK : E_OUTOFMEMORY;
     }
 
@@ -50,9 +50,7 @@ private:
 } // namespace
 
 HRESULT Raise(const Failure& failure) noexcept {
-    const TextView text = failure.Text();
-    const Com<IErrorInfo> info(
-        new (std::nothrow) FailureInfo(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))));
+    const Com<IErrorInfo> info(new (std::nothrow) FailureInfo(TryNewBstr(failure.Text())));
     SetErrorInfo(0, info.Get());
     return ResultOf(failure.Number());
 }

@@ -10,7 +10,7 @@ namespace htdrdd {
 Variant ForeignObject::Invoke(TextView name, WORD flags, DISPPARAMS& parameters) {
     const Ref<ForeignObject> self(this); // the call may make the host let go of the object
     Text member(name);
-    LPOLESTR names = member.data();
+    auto* names = reinterpret_cast<LPOLESTR>(member.data());
     DISPID id = DISPID_UNKNOWN;
     if (FAILED(outside_->GetIDsOfNames(GUID{}, &names, 1, 0, &id))) throw Failure(Err::NoSuchMember);
     OwnVariant result;

@@ -3,7 +3,7 @@
 #include "platform/number.h"
 
 #include <array>
-#include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace htdrdd {
@@ -17,13 +17,6 @@ Variant Whole(std::int64_t value) {
 }
 
 } // namespace
-
-BSTR NewBstr(TextView text) {
-    if (text.size() > std::numeric_limits<std::int32_t>::max()) throw Failure(Err::Memory);
-    BSTR made = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-    if (made == nullptr) throw Failure(Err::Memory);
-    return made;
-}
 
 const VARIANT& Behind(const VARIANT& value) noexcept {
     return value.vt == (VT_BYREF | VT_VARIANT) && value.pvarVal != nullptr ? *value.pvarVal : value;
@@ -50,7 +43,7 @@ Variant ValueFrom(const VARIANT& value) {
     case VT_I2: return value.iVal;
     case VT_UI2: return static_cast<std::int32_t>(value.uiVal);
     case VT_I4:
-    case VT_INT: return value.lVal;
+    case VT_INT: return Whole(value.lVal);
     case VT_UI4:
     case VT_UINT: return Whole(value.ulVal);
     case VT_I8: return Whole(value.llVal);
