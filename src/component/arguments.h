@@ -150,12 +150,17 @@ template <class T>
 class Argument<T*, VARIANT*> {
 public:
     explicit Argument(VARIANT* variable) : variable_(variable) {
-        if constexpr (std::same_as<T, Variant>)
+        if constexpr (std::same_as<T, Variant>) {
             if (variable != nullptr) value_ = ValueFrom(*variable);
+            before_ = value_.Is();
+        }
     }
     [[nodiscard]] T* Value() noexcept { return &value_; }
     void Return() {
         if (variable_ == nullptr) return;
+        if constexpr (std::same_as<T, Variant>)
+            if (value_.Is() == before_) return; // members only fill in what was left out
+        if ((variable_->vt & VT_BYREF) != 0) return AssignTo(*variable_, Variant(value_));
         OwnVariant made{Variant(value_)};
         std::swap(*variable_, made.Get());
     }
@@ -163,6 +168,7 @@ public:
 private:
     VARIANT* variable_;
     T value_{};
+    Variant::Kind before_ = Variant::Kind::Missing;
 };
 
 /// Objects.
@@ -202,8 +208,12 @@ public:
     [[nodiscard]] Array<T>& Value() noexcept { return value_; }
     void Return() {
         if (variable_ == nullptr) return;
-        SAFEARRAY* const made = ArrayOut(value_);
-        SafeArrayDestroy(std::exchange(*variable_, made));
+        SAFEARRAY* made = ArrayOut(value_);
+        std::swap(*variable_, made);
+        if (SUCCEEDED(SafeArrayDestroy(made))) return;
+        std::swap(*variable_, made); // somebody works on the old one
+        SafeArrayDestroy(made);
+        throw Failure(Err::PermissionDenied);
     }
 
 private:
@@ -281,11 +291,14 @@ void CallMember(Class& object, const Take& take, A... values) {
             else
                 return (object.*Function)(std::get<N>(arguments).Value()...);
         };
-        if constexpr (std::is_void_v<decltype(call())>)
+        if constexpr (std::is_void_v<decltype(call())>) {
             call();
-        else
-            take(call());
-        (std::get<N>(arguments).Return(), ...);
+            (std::get<N>(arguments).Return(), ...);
+        } else {
+            auto&& result = call();
+            (std::get<N>(arguments).Return(), ...);
+            take(result);
+        }
     }
     (std::index_sequence_for<A...>());
 }

@@ -18,8 +18,13 @@ public:
         return pUnkOuter != nullptr ? CLASS_E_NOAGGREGATION : CreateObject(row_, riid, ppvObject);
     }
     HRESULT LockServer(BOOL fLock) noexcept override {
-        livingOutside += fLock != 0 ? 1 : -1;
-        return S_OK;
+        if (fLock != 0) {
+            ++locks;
+            return S_OK;
+        }
+        std::int32_t held = locks;
+        while (held > 0 && !locks.compare_exchange_weak(held, held - 1)) {}
+        return held > 0 ? S_OK : E_UNEXPECTED;
     }
 
 private:

@@ -30,7 +30,7 @@ HRESULT Arrange(const Member& member, const DISPPARAMS& passed, Arguments& argum
     if (passed.cArgs > count || passed.cNamedArgs > passed.cArgs) return DISP_E_BADPARAMCOUNT;
     const auto place = [&](std::size_t position, const VARIANTARG& value) {
         if (position >= count || arguments.values[position] != nullptr) return false;
-        if (!IsLeftOut(value)) arguments.values[position] = &value;
+        if (!IsLeftOut(Behind(value))) arguments.values[position] = &value;
         return true;
     };
     for (UINT n = 0; n < passed.cArgs; ++n) {
@@ -49,7 +49,14 @@ HRESULT Arrange(const Member& member, const DISPPARAMS& passed, Arguments& argum
     return S_OK;
 }
 
-/// `list(1)` where list is a property without parameters: the default member of the object in it.
+/// Whether a call is meant for the default member of the object in a property: `list(1)` where list is a
+/// property without parameters, and `list(1) = value`.
+bool IsOfDefault(std::span<const Member> members, DISPID id, WORD flags, UINT count) noexcept {
+    if (count <= (IsPut(flags) ? 1U : 0U)) return false;
+    const Member* const property = FindMember(members, id, DISPATCH_PROPERTYGET);
+    return property != nullptr && property->result == VT_DISPATCH && property->parameters.size() == 0;
+}
+
 HRESULT InvokeDefault(std::span<const Member> members, IDispatch& face, DISPID id, WORD flags,
                       DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* told, UINT* refused) noexcept {
     OwnVariant object;
@@ -79,7 +86,12 @@ Variant Given::Default() const {
 
 void Given::ConvertTo(VARIANT& to) const {
     try {
-        ValueOut(to, value != nullptr ? ValueFrom(*value) : Default(), parameter.type);
+        if (value == nullptr)
+            ValueOut(to, Default(), parameter.type);
+        else if (parameter.type != VT_VARIANT)
+            ValueOut(to, ValueFrom(*value), parameter.type);
+        else if (const VARIANT direct = Direct(*value); FAILED(VariantCopy(&to, &direct)))
+            throw Failure(Err::Memory);
     } catch (...) {
         refused = position;
         throw;
@@ -87,7 +99,8 @@ void Given::ConvertTo(VARIANT& to) const {
 }
 
 HRESULT FindNames(std::span<const Member> members, LPOLESTR* names, UINT count, DISPID* ids) noexcept {
-    if (names == nullptr || ids == nullptr) return E_POINTER;
+    if (ids == nullptr || names == nullptr || std::find(names, names + count, nullptr) != names + count)
+        return E_POINTER;
     std::fill_n(ids, count, DISPID_UNKNOWN);
     if (count == 0) return S_OK;
     HRESULT result = DISP_E_UNKNOWNNAME;
@@ -111,12 +124,14 @@ HRESULT FindNames(std::span<const Member> members, LPOLESTR* names, UINT count, 
 
 HRESULT InvokeMember(std::span<const Member> members, IDispatch& face, DISPID id, WORD flags,
                      DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* told, UINT* refused) noexcept {
-    if (parameters == nullptr) return E_POINTER;
+    const bool isWhole = parameters != nullptr && (parameters->cArgs == 0 || parameters->rgvarg != nullptr) &&
+                         (parameters->cNamedArgs == 0 || parameters->rgdispidNamedArgs != nullptr);
+    if (!isWhole) return E_POINTER;
     if (result != nullptr) VariantInit(result);
+    if (IsOfDefault(members, id, flags, parameters->cArgs))
+        return InvokeDefault(members, face, id, flags, parameters, result, told, refused);
     const Member* const member = FindMember(members, id, flags);
     if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
-    if (member->kind == DISPATCH_PROPERTYGET && member->parameters.size() == 0 && parameters->cArgs > 0)
-        return InvokeDefault(members, face, id, flags, parameters, result, told, refused);
 
     Arguments arguments;
     HRESULT outcome = Arrange(*member, *parameters, arguments);
@@ -125,7 +140,9 @@ HRESULT InvokeMember(std::span<const Member> members, IDispatch& face, DISPID id
     try {
         outcome = member->call(face, *member, arguments, given.Get());
     } catch (...) {
-        if (refused != nullptr && arguments.refused < Arguments::kMost)
+        const bool isGiven =
+            arguments.refused < Arguments::kMost && arguments.values[arguments.refused] != nullptr;
+        if (refused != nullptr && isGiven)
             *refused = static_cast<UINT>(arguments.values[arguments.refused] - parameters->rgvarg);
         return ResultOfArgument(CurrentFailure());
     }

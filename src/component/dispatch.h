@@ -97,13 +97,13 @@ private:
     BSTR text_ = nullptr;
 };
 
-/// Values of any kind, likewise.
+/// Values of any kind: the caller's own, of which a member makes a copy before it does anything.
 template <>
 class Incoming<VARIANT> {
 public:
     explicit Incoming(const Given& given) {
-        if (given.value != nullptr && (given.value->vt & VT_BYREF) == 0)
-            value_ = *given.value;
+        if (given.value != nullptr)
+            value_ = Direct(*given.value);
         else
             given.ConvertTo(own_.Get()), value_ = own_.Get();
     }
@@ -144,7 +144,7 @@ public:
                 passed_ = static_cast<A*>(static_cast<void*>(&given.value->pvarVal->llVal));
             if (passed_ != nullptr) return;
         }
-        given.ConvertTo(own_.Get());
+        given.ConvertTo(own_.Get()); // a value of any kind stays what it is
         before_ = own_.Get();
         if constexpr (isValue)
             passed_ = &own_.Get();

@@ -11,7 +11,7 @@ HRESULT DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv) { return Giv
 
 HRESULT DllCanUnloadNow() {
     DropIdleGlobalObjects();
-    return livingOutside == 0 ? S_OK : S_FALSE;
+    return livingOutside == 0 && locks == 0 ? S_OK : S_FALSE;
 }
 
 HRESULT DllRegisterServer() { return WriteManifest(); }

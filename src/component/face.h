@@ -64,6 +64,7 @@ public:
     }
     HRESULT Invoke(DISPID dispIdMember, REFIID /*riid*/, LCID /*lcid*/, WORD wFlags, DISPPARAMS* pDispParams,
                    VARIANT* pVarResult, EXCEPINFO* pExcepInfo, UINT* puArgErr) noexcept override {
+        const Ref<Class> self(&object_); // also while arguments are asked what they are
         return InvokeMember(row_.members, *this, dispIdMember, wFlags, pDispParams, pVarResult, pExcepInfo,
                             puArgErr);
     }

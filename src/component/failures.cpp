@@ -51,7 +51,7 @@ private:
 
 HRESULT Raise(const Failure& failure) noexcept {
     const Com<IErrorInfo> info(new (std::nothrow) FailureInfo(TryNewBstr(failure.Text())));
-    SetErrorInfo(0, info.Get());
+    if (FAILED(SetErrorInfo(0, info.Get()))) SetErrorInfo(0, nullptr);
     return ResultOf(failure.Number());
 }
 
@@ -71,8 +71,8 @@ Failure FailureOutside(HRESULT result, EXCEPINFO& told) {
     std::int32_t number = result;
     if (result == DISP_E_EXCEPTION) {
         if (told.pfnDeferredFillIn != nullptr) told.pfnDeferredFillIn(&told);
-        text = View(told.bstrDescription);
-        number = told.wCode != 0 ? told.wCode : told.scode;
+        IgnoreFailure([&] { text = View(told.bstrDescription); });
+        if (told.wCode != 0 || told.scode != 0) number = told.wCode != 0 ? told.wCode : told.scode;
     }
     SysFreeString(told.bstrSource);
     SysFreeString(told.bstrDescription);

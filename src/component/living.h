@@ -6,8 +6,10 @@
 
 namespace htdrdd {
 
-/// Objects that outside hosts have seen and that are still there, and locks.
+/// Objects that outside hosts have seen and that are still there.
 inline std::atomic<std::int32_t> livingOutside{0};
+/// Locks of class factories.
+inline std::atomic<std::int32_t> locks{0};
 
 /// A part of something that counts as living.
 class Living {

@@ -44,6 +44,10 @@ HRESULT GiveBehind(Object& object, REFIID riid, void** result) noexcept {
 Ref<Object> OwnObject(IUnknown* face) noexcept {
     void* found = nullptr;
     if (face == nullptr || FAILED(face->QueryInterface(ObjectIdentifier(), &found))) return {};
+    if (found == face) { // one that says yes to everything
+        face->Release();
+        return {};
+    }
     Ref<Object> object(static_cast<Object*>(found));
     object->Release(); // the reference that the question counted
     return object;

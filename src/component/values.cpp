@@ -9,11 +9,18 @@
 namespace htdrdd {
 namespace {
 
-Variant Whole(std::int64_t value) {
-    if (value >= std::numeric_limits<std::int32_t>::min() &&
-        value <= std::numeric_limits<std::int32_t>::max())
-        return static_cast<std::int32_t>(value);
-    return static_cast<double>(value);
+/// Whether an array has one dimension and elements of a kind that the library knows.
+bool IsList(SAFEARRAY& array) {
+    VARTYPE kind = VT_EMPTY;
+    return SafeArrayGetDim(&array) == 1 && SUCCEEDED(SafeArrayGetVartype(&array, &kind)) &&
+           SizeOfKind(kind) > 0 && array.cbElements == SizeOfKind(kind) &&
+           (array.pvData != nullptr || array.rgsabound[0].cElements == 0);
+}
+
+/// The object, or Other for one that can't be called by name.
+Variant ObjectOr(IUnknown* object) {
+    if (object != nullptr && !Com<IDispatch>::Of(object)) return Variant::Other();
+    return ObjectFrom(object);
 }
 
 } // namespace
@@ -22,44 +29,53 @@ const VARIANT& Behind(const VARIANT& value) noexcept {
     return value.vt == (VT_BYREF | VT_VARIANT) && value.pvarVal != nullptr ? *value.pvarVal : value;
 }
 
-Variant ValueFrom(const VARIANT& value) {
-    if ((value.vt & VT_BYREF) != 0) {
-        if (value.byref == nullptr) throw Failure(Err::TypeMismatch);
-        VARIANT direct = Behind(value);
-        if ((direct.vt & VT_BYREF) != 0) { // what it refers to, as if it held that itself
-            direct.vt = static_cast<VARTYPE>(direct.vt & ~VT_BYREF);
-            if (direct.vt == VT_VARIANT || direct.byref == nullptr) throw Failure(Err::TypeMismatch);
-            std::memcpy(&direct.llVal, direct.byref, SizeOfKind(direct.vt));
-        }
-        return ValueFrom(direct);
+VARIANT Direct(const VARIANT& value) noexcept {
+    VARIANT direct = Behind(value);
+    if ((direct.vt & VT_BYREF) == 0) return direct;
+    const auto kind = static_cast<VARTYPE>(direct.vt & ~VT_BYREF);
+    const std::size_t size = SizeOfKind(kind);
+    const void* const variable = direct.byref;
+    direct = {};
+    if (variable == nullptr || size == 0 || size > sizeof direct.llVal) {
+        direct.vt = VT_ERROR; // no value
+        direct.scode = E_INVALIDARG;
+        return direct;
     }
-    if ((value.vt & VT_ARRAY) != 0) return ArrayFrom(value.parray);
+    direct.vt = kind;
+    std::memcpy(&direct.llVal, variable, size);
+    return direct;
+}
+
+Variant ValueFrom(const VARIANT& given) {
+    const VARIANT value = Direct(given);
+    if ((value.vt & VT_ARRAY) != 0) {
+        const bool isList = value.parray == nullptr || IsList(*value.parray);
+        return isList ? Variant(ArrayFrom(value.parray)) : Variant::Other();
+    }
     switch (value.vt) {
     case VT_EMPTY: return Variant::Empty();
     case VT_NULL: return Variant::Null();
     case VT_BOOL: return value.boolVal != VARIANT_FALSE;
-    case VT_I1: return static_cast<std::int16_t>(value.cVal);
-    case VT_UI1: return static_cast<std::int16_t>(value.bVal);
-    case VT_I2: return value.iVal;
-    case VT_UI2: return static_cast<std::int32_t>(value.uiVal);
+    case VT_I2: return static_cast<std::int16_t>(value.iVal);
     case VT_I4:
-    case VT_INT: return Whole(value.lVal);
+    case VT_INT: return static_cast<std::int32_t>(value.lVal);
+    // Integers of other widths are numbers, but no positions of a kind that members tell apart.
+    case VT_I1: return static_cast<double>(value.cVal);
+    case VT_UI1: return static_cast<double>(value.bVal);
+    case VT_UI2: return static_cast<double>(value.uiVal);
     case VT_UI4:
-    case VT_UINT: return Whole(value.ulVal);
-    case VT_I8: return Whole(value.llVal);
-    case VT_UI8:
-        return value.ullVal <= INT32_MAX ? Whole(value.llVal) : Variant(static_cast<double>(value.ullVal));
+    case VT_UINT: return static_cast<double>(value.ulVal);
+    case VT_I8: return static_cast<double>(value.llVal);
+    case VT_UI8: return static_cast<double>(value.ullVal);
     case VT_R4: return static_cast<double>(value.fltVal);
     case VT_R8:
     case VT_DATE: return value.dblVal;
     case VT_CY: return static_cast<double>(value.llVal) / 10000;
     case VT_BSTR: return Text(View(value.bstrVal));
     case VT_DISPATCH:
-    case VT_UNKNOWN: return ObjectFrom(value.punkVal);
-    case VT_ERROR:
-        if (value.scode == DISP_E_PARAMNOTFOUND) return {};
-        [[fallthrough]];
-    default: throw Failure(Err::TypeMismatch);
+    case VT_UNKNOWN: return ObjectOr(value.punkVal);
+    case VT_ERROR: return value.scode == DISP_E_PARAMNOTFOUND ? Variant() : Variant::Other();
+    default: return Variant::Other();
     }
 }
 
@@ -96,6 +112,7 @@ void ValueOut(VARIANT& to, const Variant& value) {
         made.pdispVal = ObjectOut(*value.AsObject());
         made.vt = VT_DISPATCH;
         break;
+    case Variant::Kind::Other: throw Failure(Err::TypeMismatch);
     case Variant::Kind::Values:
         made.parray = ArrayOut(*value.AsArray(), VT_VARIANT);
         made.vt = VT_ARRAY | VT_VARIANT;
@@ -111,12 +128,12 @@ void Convert(const Variant& value, bool& to) { to = value.ToBoolean(); }
 Array<Variant> ArrayFrom(SAFEARRAY* array) {
     if (array == nullptr) return {};
     if (SafeArrayGetDim(array) != 1) throw Failure(Err::Subscript);
+    if (!IsList(*array)) throw Failure(Err::TypeMismatch);
     VARIANT element{};
-    if (FAILED(SafeArrayGetVartype(array, &element.vt))) throw Failure(Err::TypeMismatch);
+    SafeArrayGetVartype(array, &element.vt);
     const auto [count, lowerBound] = array->rgsabound[0];
     const bool isVariant = element.vt == VT_VARIANT;
     const std::size_t size = array->cbElements;
-    if (size != SizeOfKind(element.vt)) throw Failure(Err::TypeMismatch);
     std::vector<Variant> items;
     items.reserve(count);
     const auto* place = static_cast<const char*>(array->pvData);

@@ -12,9 +12,10 @@
 
 namespace htdrdd {
 
-/// The value of a variant, which may refer to it. Fails with 13 for kinds that the library doesn't know.
+/// The value of a variant, which may refer to it; Other for kinds that the library doesn't know. Fails only
+/// with 7.
 [[nodiscard]] Variant ValueFrom(const VARIANT& value);
-/// Puts a value into a variant that holds none.
+/// Puts a value into a variant that holds none. Fails with 13 for Other.
 void ValueOut(VARIANT& to, const Variant& value);
 /// The same, in a kind that the variant is to have. Fails as the value's conversions do.
 void ValueOut(VARIANT& to, const Variant& value, VARTYPE kind);
@@ -22,6 +23,8 @@ void ValueOut(VARIANT& to, const Variant& value, VARTYPE kind);
 void AssignTo(const VARIANT& variable, const Variant& value);
 /// The variant that another one refers to, if it does, or itself.
 [[nodiscard]] const VARIANT& Behind(const VARIANT& value) noexcept;
+/// What a variant refers to, as if it held that itself; still the other's own.
+[[nodiscard]] VARIANT Direct(const VARIANT& value) noexcept;
 
 /// A variant that is cleared at the end.
 class OwnVariant {
@@ -38,7 +41,8 @@ private:
 };
 
 /// The elements of an array of one dimension with its lower bound; a null pointer is an array without
-/// storage. Fails with 9 for more dimensions.
+/// storage. Fails with 9 for more dimensions, and with 13 for elements of a kind that the library
+/// doesn't know.
 [[nodiscard]] Array<Variant> ArrayFrom(SAFEARRAY* array);
 /// A new array with elements of a kind, for whoever gets it; null for one without storage.
 [[nodiscard]] SAFEARRAY* ArrayOut(const Array<Variant>& array, VARTYPE type);

@@ -87,7 +87,7 @@ bool clsHTDRDD::GetExtraCredit(const Variant& lSubtest, std::int32_t* lNumQuesti
     double points = 0;
     bool result = false;
     try {
-        const double subtest = lSubtest.ToDouble();
+        const double subtest = lSubtest.IsMissing() ? 1 : lSubtest.ToDouble();
         if (subtest > 0 && subtest <= Subtests->Count()) {
             const auto position = Rounded<std::int32_t>(subtest);
             for (std::int32_t l = 1; l <= Questions->Count(); ++l) {

@@ -1,8 +1,16 @@
 #include "platform/dictionary.h"
 
 #include <bit>
+#include <utility>
 
 namespace htdrdd {
+namespace {
+
+void DemandHeld(const Variant& item, Where at) {
+    if (item.Is() == Variant::Kind::Other) throw Failure(Err::TypeMismatch, at);
+}
+
+} // namespace
 
 /// One text for all keys that are the same key.
 Text Dictionary::Normal(const Variant& key, Where at) const {
@@ -38,6 +46,7 @@ void Dictionary::CompareMode(Compare mode, Where at) {
 }
 
 void Dictionary::Add(const Variant& key, Variant item, Where at) {
+    DemandHeld(item, at);
     Text normal = Normal(key, at);
     if (Find(normal) != kNone) throw Failure(Err::KeyInUse, at);
     Append(std::move(normal), key, std::move(item));
@@ -51,9 +60,10 @@ const Variant& Dictionary::Item(const Variant& key, Where at) {
 }
 
 void Dictionary::Item(const Variant& key, Variant item, Where at) {
+    DemandHeld(item, at);
     Text normal = Normal(key, at);
     if (const std::size_t slot = Find(normal); slot != kNone)
-        entries_[slot].item = std::move(item);
+        std::swap(entries_[slot].item, item); // what was there ends last: its end may come back here
     else
         Append(std::move(normal), key, std::move(item));
 }
@@ -78,6 +88,7 @@ void Dictionary::Remove(const Variant& key, Where at) {
     const std::size_t slot = Find(normal);
     if (slot == kNone) throw Failure(Err::NotFound, at);
     slots_.erase(normal);
+    const Entry ended = std::move(entries_[slot]);
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(slot));
     for (auto& [text, place] : slots_)
         if (place > slot) --place;
@@ -96,8 +107,8 @@ Array<Variant> Dictionary::Items() const {
 }
 
 void Dictionary::RemoveAll() noexcept {
-    entries_.clear();
     slots_.clear();
+    const auto ended = std::exchange(entries_, {});
 }
 
 } // namespace htdrdd

@@ -22,7 +22,8 @@ public:
     [[nodiscard]] Compare CompareMode() const noexcept { return mode_; }
     void CompareMode(Compare mode, Where at = Where::current());
 
-    /// Fails with 457 where the key is there already.
+    /// Fails with 457 where the key is there already, and as Item does with 13 for a value that can't be
+    /// held.
     void Add(const Variant& key, Variant item, Where at = Where::current());
     /// Reads an item. An unknown key is added at the end with an empty value.
     [[nodiscard]] const Variant& Item(const Variant& key, Where at = Where::current());

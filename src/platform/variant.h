@@ -12,7 +12,8 @@
 
 namespace htdrdd {
 
-/// A value of any kind. "Missing" is an optional argument that was left out; "empty" was never filled.
+/// A value of any kind. "Missing" is an optional argument that was left out; "empty" was never filled;
+/// "other" is a value from outside that can't be held, only refused.
 class Variant {
 public:
     enum class Kind {
@@ -25,7 +26,8 @@ public:
         Double,
         String,
         Reference,
-        Values
+        Values,
+        Other
     };
 
     Variant() = default; ///< missing
@@ -43,6 +45,7 @@ public:
     Variant(Array<Variant> values) : value_(std::make_shared<const Array<Variant>>(std::move(values))) {}
     static Variant Empty() { return Variant(Storage(std::in_place_index<1>)); }
     static Variant Null() { return Variant(Storage(std::in_place_index<2>)); }
+    static Variant Other() { return Variant(Storage(std::in_place_type<OtherValue>)); }
 
     [[nodiscard]] Kind Is() const noexcept { return static_cast<Kind>(value_.index()); }
     [[nodiscard]] bool IsMissing() const noexcept { return Is() == Kind::Missing; }
@@ -56,8 +59,8 @@ public:
 
     /// Conversions. Empty is 0, false and the empty text; texts are read and numbers are written by the rules
     /// of the region; any number but 0 is true. Null fails with 94, missing with 449, an empty
-    /// reference with 91, any other with 438, an array and a text that is no number with 13, a number out of
-    /// range with 6.
+    /// reference with 91, any other with 438, an array, another value and a text that is no number with 13, a
+    /// number out of range with 6.
     [[nodiscard]] double ToDouble(Where at = Where::current()) const;
     [[nodiscard]] std::int32_t ToInteger32(Where at = Where::current()) const;
     [[nodiscard]] std::int16_t ToInteger16(Where at = Where::current()) const;
@@ -68,9 +71,10 @@ private:
     struct MissingValue {};
     struct EmptyValue {};
     struct NullValue {};
+    struct OtherValue {};
     using SharedValues = std::shared_ptr<const Array<Variant>>;
     using Storage = std::variant<MissingValue, EmptyValue, NullValue, bool, std::int16_t, std::int32_t,
-                                 double, Text, Ref<Object>, SharedValues>;
+                                 double, Text, Ref<Object>, SharedValues, OtherValue>;
     explicit Variant(Storage value) : value_(std::move(value)) {}
 
     Storage value_;

@@ -26,15 +26,22 @@ public:
     EXCEPINFO failure{};
     std::string kinds;
     std::function<void(DISPPARAMS&)> whenCalled;
+    std::function<void()> whenAsked; ///< what interfaces it has
+    std::function<void()> whenReleased;
+    bool saysYes = false; ///< to every interface
 
     HRESULT QueryInterface(REFIID riid, void** ppvObject) override {
-        *ppvObject = riid == IID_IUnknown || riid == IID_IDispatch ? this : nullptr;
+        if (whenAsked) whenAsked();
+        *ppvObject = saysYes || riid == IID_IUnknown || riid == IID_IDispatch ? this : nullptr;
         if (*ppvObject == nullptr) return E_NOINTERFACE;
         AddRef();
         return S_OK;
     }
     ULONG AddRef() override { return ++references; }
-    ULONG Release() override { return --references; }
+    ULONG Release() override {
+        if (whenReleased) whenReleased();
+        return --references;
+    }
     HRESULT GetTypeInfoCount(UINT* /*pctinfo*/) override { return E_NOTIMPL; }
     HRESULT GetTypeInfo(UINT /*i*/, LCID /*lcid*/, ITypeInfo** /*ppTInfo*/) override { return E_NOTIMPL; }
     HRESULT GetIDsOfNames(REFIID /*riid*/, LPOLESTR* names, UINT /*n*/, LCID /*lcid*/, DISPID* ids) override {
@@ -175,6 +182,73 @@ TEST_F(Component, CallsThatDontFitAreRefused) {
     EXPECT_EQ(View(text.Get()), u"Subscript out of range");
     EXPECT_EQ(GetErrorInfo(0, &info), S_FALSE) << "it is told once";
     EXPECT_EQ(slots.get_Count(nullptr), E_POINTER);
+}
+
+TEST_F(Component, MembersThemselvesRefuseValuesOfAnyKind) {
+    VARIANT decimal{};
+    decimal.vt = 14;
+    std::array bounds{SAFEARRAYBOUND{1, 0}, SAFEARRAYBOUND{1, 0}};
+    OwnVariant table;
+    table.Get().parray = SafeArrayCreate(VT_I4, 2, bounds.data());
+    table.Get().vt = VT_ARRAY | VT_I4;
+    const auto strings = Make<clsHTDRDDStrings>();
+    const auto memberships = Make<clsHTDRDDQuestionSubtests>();
+    for (const VARIANT& value : {decimal, table.Get(), By(VT_VARIANT, nullptr)}) {
+        OwnVariant result;
+        EXPECT_EQ(Call(*strings, u"Exists", DISPATCH_METHOD, {value}, &result.Get()), S_OK);
+        EXPECT_EQ(result.Get().boolVal, VARIANT_FALSE);
+        EXPECT_EQ(Call(*memberships, u"Add", DISPATCH_METHOD, {value}), S_OK);
+        EXPECT_EQ(Call(*rdd, u"GetSubtestQuestions", DISPATCH_METHOD, {value}, &result.Get()), S_OK);
+        EXPECT_EQ(result.Get().pdispVal, nullptr);
+        EXPECT_EQ(Call(*rdd->Questions, u"Remove", DISPATCH_METHOD, {value}), S_OK);
+        EXPECT_EQ(Heard(), Said{kTypeMismatch + "clsHTDRDDQuestions.Remove"});
+        EXPECT_EQ(Call(*rdd->Header, u"Add", DISPATCH_METHOD, {OwnVariant(Variant(u"k")).Get(), value}),
+                  DISP_E_EXCEPTION);
+    }
+    EXPECT_EQ(memberships->Count(), 0);
+
+    // A type that is given only governs: the variable stays as it is.
+    unsigned char type = HTDVersionTypeNone;
+    EXPECT_EQ(Call(*rdd, u"ValidateVersions", DISPATCH_METHOD,
+                   {OwnVariant(Variant(false)).Get(), OwnVariant(Variant()).Get(), By(VT_UI1, &type)}),
+              S_OK);
+    EXPECT_EQ(Call(*rdd, u"Header", DISPATCH_PROPERTYPUT,
+                   {OwnVariant(Variant(u"cols")).Get(), OwnVariant(Variant(7)).Get()}),
+              S_OK);
+    EXPECT_EQ(rdd->Header->Item(u"COLS").ToInteger32(), 7);
+}
+
+TEST_F(Component, ObjectsMayBeReleasedWhileOthersAreAskedWhatTheyAre) {
+    auto document = Make<clsHTDRDD>();
+    VARIANT object{};
+    object.vt = VT_DISPATCH;
+    object.pdispVal = &outsider;
+    outsider.whenAsked = [&] { document = nullptr; };
+    EXPECT_EQ(Call(*document, u"oState", DISPATCH_PROPERTYPUT, {object}), S_OK);
+
+    document = Make<clsHTDRDD>();
+    const auto container = Com<IConnectionPointContainer>::Of(&FaceOf(*document));
+    IConnectionPoint* found = nullptr;
+    ASSERT_EQ(container->FindConnectionPoint(DIID___clsHTDRDD, &found), S_OK);
+    found->Release(); // it lives as long as the document
+    DWORD cookie = 0;
+    outsider.whenAsked = nullptr;
+    EXPECT_EQ(found->Advise(&outsider, &cookie), S_OK);
+    EXPECT_EQ(found->Unadvise(cookie), S_OK);
+    EXPECT_EQ(found->Unadvise(cookie), CONNECT_E_NOCONNECTION);
+
+    // The end of what a header holds may look into the header.
+    const auto header = document->Header;
+    header->Item(u"host", ObjectFrom(&outsider));
+    outsider.whenReleased = [&] { EXPECT_LE(header->Keys().Items().size(), 32U); };
+    header->Item(u"host", 1);
+    header->Item(u"host", ObjectFrom(&outsider));
+    header->Remove(u"host");
+    header->Item(u"host", ObjectFrom(&outsider));
+    header->RemoveAll();
+
+    outsider.saysYes = true;
+    EXPECT_FALSE(OwnObject(&outsider));
 }
 
 TEST_F(Component, OutsideHostsGetEachArgumentInItsKind) {

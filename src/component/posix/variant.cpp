@@ -8,9 +8,11 @@ void VariantInit(VARIANTARG* pvarg) {
 
 HRESULT VariantClear(VARIANTARG* pvarg) {
     if (pvarg == nullptr) return E_INVALIDARG;
+    const bool isArray = (pvarg->vt & (VT_ARRAY | VT_BYREF)) == VT_ARRAY;
+    if (isArray && pvarg->parray != nullptr && pvarg->parray->cLocks > 0) return DISP_E_ARRAYISLOCKED;
     const VARIANT value = std::exchange(*pvarg, {}); // what ends may come back to the variable
     if ((value.vt & VT_BYREF) != 0) return S_OK;
-    if ((value.vt & VT_ARRAY) != 0) {
+    if (isArray) {
         SafeArrayDestroy(value.parray);
     } else if (value.vt == VT_BSTR) {
         SysFreeString(value.bstrVal);
