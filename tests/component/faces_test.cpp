@@ -240,7 +240,7 @@ TEST_F(Component, ObjectsMayBeReleasedWhileOthersAreAskedWhatTheyAre) {
     // The end of what a header holds may look into the header.
     const auto header = document->Header;
     header->Item(u"host", ObjectFrom(&outsider));
-    outsider.whenReleased = [&] { EXPECT_LE(header->Keys().Items().size(), 32U); };
+    outsider.whenReleased = [&] { EXPECT_LE(header->Items().Items().size(), 32U); };
     header->Item(u"host", 1);
     header->Item(u"host", ObjectFrom(&outsider));
     header->Remove(u"host");
