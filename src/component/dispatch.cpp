@@ -90,7 +90,7 @@ void Given::ConvertTo(VARIANT& to) const {
             ValueOut(to, Default(), parameter.type);
         else if (parameter.type != VT_VARIANT)
             ValueOut(to, ValueFrom(*value), parameter.type);
-        else if (const VARIANT direct = Direct(*value); FAILED(VariantCopy(&to, &direct)))
+        else if (VARIANT direct = Direct(*value); FAILED(VariantCopy(&to, &direct)))
             throw Failure(Err::Memory);
     } catch (...) {
         refused = position;
