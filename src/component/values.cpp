@@ -46,8 +46,8 @@ VARIANT Direct(const VARIANT& value) noexcept {
     return direct;
 }
 
-Variant ValueFrom(const VARIANT& given) {
-    const VARIANT value = Direct(given);
+Variant ValueFrom(const VARIANT& value) {
+    if ((value.vt & VT_BYREF) != 0) return ValueFrom(Direct(value));
     if ((value.vt & VT_ARRAY) != 0) {
         const bool isList = value.parray == nullptr || IsList(*value.parray);
         return isList ? Variant(ArrayFrom(value.parray)) : Variant::Other();
