@@ -218,7 +218,8 @@ double RegionalNumber(TextView text, Where at) {
         if (!std::all_of(digits.begin(), digits.end(), [&](char16_t c) { return number.Take(c); }) ||
             !number.Any())
             throw refuse();
-        return negative ? -number.Value(at) : number.Value(at);
+        const double based = number.Value(at);
+        return negative && based != 0 ? -based : based;
     }
 
     std::string kept;

@@ -20,6 +20,7 @@ TEST(Numbers, RegionalOnesGoByTheRegion) {
     CheckWords("regional_numbers", [](const Fields& row) {
         return InBothRegions([&] { return Outcome([&] { return RegionalNumber(row[0]); }); });
     });
+    EXPECT_FALSE(std::signbit(RegionalNumber(u"-&H0"))) << "there is no minus zero";
 }
 
 TEST(Numbers, AreWrittenWithFifteenDigitsAtMost) {
