@@ -90,7 +90,7 @@ public:
                           DISPID* ids) override {
         const std::u16string name = names[0];
         ids[0] = name == u"Silent" ? kSilent : name == u"RaiseError" ? kRaiseError : kMsgBoxEx;
-        return S_OK;
+        return ids[0] != kMsgBoxEx || name == u"MsgBoxEx" ? S_OK : DISP_E_UNKNOWNNAME;
     }
     HRESULT Invoke(DISPID id, REFIID /*riid*/, LCID /*language*/, WORD flags, DISPPARAMS* arguments,
                    VARIANT* result, EXCEPINFO* /*told*/, UINT* /*refused*/) override {
@@ -102,16 +102,42 @@ public:
             result->vt = VT_BOOL;
             result->boolVal = silent_;
         } else if (id == kRaiseError && silent_ == VARIANT_FALSE) {
-            const BSTR text = *arguments->rgvarg[10].pbstrVal; // the third of 13, by reference
-            std::printf("Complaint: %s\n", Utf8({text, component_.length(text)}).c_str());
+            Show(arguments->rgvarg[10]); // the third of 13
+        } else if (id == kMsgBoxEx) {
+            Show(arguments->rgvarg[arguments->cArgs -
+                                   2]); // the second; the result of a stop message doesn't count
         }
         return S_OK;
     }
 
 private:
     enum : DISPID { kSilent = 1, kRaiseError, kMsgBoxEx };
+    /// A text that comes by reference.
+    void Show(const VARIANT& text) const {
+        std::printf("%s\n", Utf8({*text.pbstrVal, component_.length(*text.pbstrVal)}).c_str());
+    }
     const Component& component_;
     VARIANT_BOOL silent_ = VARIANT_FALSE;
+};
+
+/// The host object of this thread, as long as this is there: it mustn't end before that.
+class Registration {
+public:
+    Registration(const Component& component, _clsHTDRDD& rdd, IDispatch& host) : rdd_(rdd) {
+        IDispatch* registered = &host;
+        VARIANT_BOOL isRegistered = VARIANT_FALSE;
+        component.Check(rdd_.SetError(&registered, &isRegistered));
+    }
+    Registration(const Registration&) = delete;
+    Registration& operator=(const Registration&) = delete;
+    ~Registration() {
+        IDispatch* none = nullptr;
+        VARIANT_BOOL isRegistered = VARIANT_FALSE;
+        rdd_.SetError(&none, &isRegistered);
+    }
+
+private:
+    _clsHTDRDD& rdd_;
 };
 
 bool Run(const Component& component, const std::u16string& path) {
@@ -124,19 +150,17 @@ bool Run(const Component& component, const std::u16string& path) {
     component.Check(factory->CreateInstance(nullptr, IID__clsHTDRDD, reinterpret_cast<void**>(&document)));
     const Object<_clsHTDRDD> rdd(document);
 
-    VARIANT_BOOL isFine = VARIANT_FALSE;
-    IDispatch* registered = &host;
-    component.Check(rdd->SetError(&registered, &isFine));
+    const Registration registration(component, *rdd, host);
 
     BSTR file = component.allocate(path.data(), static_cast<UINT>(path.size()));
+    VARIANT_BOOL isFine = VARIANT_FALSE;
     const HRESULT read = rdd->Read(file, &isFine);
     component.free(file);
     component.Check(read);
-    std::printf("Read: %s\n", isFine != VARIANT_FALSE ? "yes" : "no");
+    if (isFine == VARIANT_FALSE) throw std::runtime_error("The definition can't be read");
 
     LONG flagged = -1;
-    if (isFine != VARIANT_FALSE)
-        component.Check(rdd->ValidateKey(VARIANT_TRUE, &flagged, nullptr, nullptr, &isFine));
+    component.Check(rdd->ValidateKey(VARIANT_TRUE, &flagged, nullptr, nullptr, &isFine));
     std::printf("Can be graded with: %s\n", isFine != VARIANT_FALSE ? "yes" : "no");
 
     _clsHTDRDDQuestions* list = nullptr;
@@ -155,10 +179,6 @@ bool Run(const Component& component, const std::u16string& path) {
         component.Check(question->get_QuestionName(&name));
         std::printf("%3d  %s\n", l, Utf8(component.Take(name)).c_str());
     }
-
-    registered = nullptr;
-    VARIANT_BOOL isRegistered = VARIANT_TRUE;
-    component.Check(rdd->SetError(&registered, &isRegistered)); // the host object ends before the thread does
     return isFine != VARIANT_FALSE;
 }
 

@@ -18,7 +18,7 @@ class Host(htdrdd91.Dispatch):
         return 0
 
     def MsgBoxEx(self, caption, message, flags, owner, *buttons):
-        print(f"{caption}: {message} [{buttons[0]}]", file=sys.stderr)
+        print(f"{caption.value}: {message.value} [{buttons[0].value}]", file=sys.stderr)
         return 1
 
 
@@ -46,10 +46,10 @@ def main(library, definition, text_key, out):
     htdrdd91.load(library)
     rdd = htdrdd91.create("clsHTDRDD")
     rdd.SetError(Host())
-    disconnect = rdd.connect(AfterRead=lambda: print(f"Has read {definition}"))
+    disconnect = rdd.connect(AfterRead=lambda: print(f"{definition}: reading has ended"))
     try:
         if not rdd.Read(definition):
-            return 1
+            return f"{definition} couldn't be read"
         show(rdd)
         if not (validate(rdd) and rdd.MergeTextKey(text_key) and rdd.Save(out, bEncrypt=False)):
             return 1

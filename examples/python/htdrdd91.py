@@ -1,7 +1,7 @@
 """The component HTDRdd91 from Python, with ctypes alone.
 
     import htdrdd91
-    htdrdd91.load("libHTDRdd91.so")
+    htdrdd91.load("./libHTDRdd91.so")
     rdd = htdrdd91.create("clsHTDRDD")
     if rdd.Read("quiz.rdd"):
         print(rdd.Questions.Item(1).QuestionName)
@@ -13,6 +13,7 @@ Array, MISSING, Ref and NOTHING in variants.py.
 import ctypes
 import functools
 import itertools
+import traceback
 import uuid
 from ctypes import CFUNCTYPE, addressof, byref, c_int32, c_uint16, c_uint32, c_void_p, sizeof
 
@@ -51,7 +52,7 @@ CONNECTIONS_INTERFACE = guid("B196B284-BAB4-101A-B69C-00AA00341D07")
 METHOD, GET, PUT, PUT_REFERENCE = 1, 2, 4, 8
 DEFAULT_MEMBER, PUT_VALUE, NEW_ENUM = 0, -3, -4
 NOT_IMPLEMENTED, NO_SUCH_INTERFACE, FAILED, NO_SUCH_EVENT = 0x80004001, 0x80004002, 0x80004005, 0x80040200
-MEMBER_NOT_FOUND, UNKNOWN_NAME, EXCEPTION = 0x80020003, 0x80020006, 0x80020009
+NOT_AVAILABLE, MEMBER_NOT_FOUND, UNKNOWN_NAME, EXCEPTION = 0x80040111, 0x80020003, 0x80020006, 0x80020009
 WRONG_COUNT, NOT_OPTIONAL = 0x8002000E, 0x8002000F
 RAISED = 0x800A0000  # and the number of the failure
 
@@ -89,6 +90,8 @@ def load(path):
 def create(name):
     """A new object of one of the CLASSES."""
     factory, pointer = c_void_p(), c_void_p()
+    if name not in CLASSES:
+        raise ComponentError(NOT_AVAILABLE, f"{name} can't be created, only reached through other objects")
     check(library.DllGetClassObject(CLASSES[name], FACTORY_INTERFACE, byref(factory)))
     check(Object(factory.value)._slot(3, (c_void_p,) * 3, None, DISPATCH_INTERFACE, byref(pointer)))
     return Object(pointer.value)
@@ -111,7 +114,7 @@ def call_slot(pointer, slot, types, *arguments):
 class Object:
     """An object of the component: `rdd.Notes` reads, `rdd.Notes = "x"` writes, `rdd.Read(path)` calls, in any case;
     names of arguments go as keywords. `codes.put("Item", 1, "x")` writes a property with arguments, `codes(1)` is the
-    default member. Two are equal that stand for the same object."""
+    default member; lists are walked from 1 to `Count`. Two are equal that stand for the same object."""
 
     def __init__(self, pointer, shared=False):
         self._pointer = pointer
@@ -194,7 +197,10 @@ class Object:
         texts = [ctypes.create_string_buffer((name + "\0").encode("utf-16-le")) for name in names]
         pointers, identifiers = (c_void_p * len(names))(*map(addressof, texts)), (c_int32 * len(names))()
         types = (c_void_p, c_void_p, c_uint32, c_uint32, c_void_p)
-        check(self._slot(5, types, NO_INTERFACE, pointers, len(names), 0, identifiers))
+        code = self._slot(5, types, NO_INTERFACE, pointers, len(names), 0, identifiers) & 0xFFFFFFFF
+        if code == UNKNOWN_NAME:
+            raise ComponentError(code, "There is no member, or no argument, " + " ".join(names))
+        check(code)
         return list(identifiers)
 
     def _invoke(self, flags, identifiers, arguments=(), named=()):
@@ -303,6 +309,8 @@ def invoke(this, member, interface, locale, flags, arguments, result, failure, p
             write(VARIANT, result, answer)
         return 0
     except Exception as error:
+        if not isinstance(error, ComponentError):
+            traceback.print_exc()
         number, text = error.args if isinstance(error, ComponentError) else (FAILED, repr(error))
         if failure:
             failed = FailureRecord.from_address(failure)

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 namespace htdrdd {
 
@@ -115,7 +116,7 @@ public:
     explicit ArgumentOfAnyKind(const VARIANT* variable) {
         if (variable != nullptr) value_ = ValueFrom(*variable);
     }
-    [[nodiscard]] P Value() const noexcept {
+    [[nodiscard]] P Value() const {
         if constexpr (std::same_as<P, Index>)
             return IndexOf(value_);
         else if constexpr (std::same_as<P, NewKey>)
@@ -297,7 +298,7 @@ void CallMember(Class& object, const Take& take, A... values) {
         } else {
             auto&& result = call();
             (std::get<N>(arguments).Return(), ...);
-            take(result);
+            take(result); // the last thing: a call that fails gives none
         }
     }
     (std::index_sequence_for<A...>());

@@ -84,10 +84,12 @@ template <>
 class Incoming<BSTR> {
 public:
     explicit Incoming(const Given& given) {
-        if (given.value != nullptr && given.value->vt == VT_BSTR)
+        if (given.value != nullptr && given.value->vt == VT_BSTR) {
             text_ = given.value->bstrVal;
-        else
-            given.ConvertTo(own_.Get()), text_ = own_.Get().bstrVal;
+        } else {
+            given.ConvertTo(own_.Get());
+            text_ = own_.Get().bstrVal;
+        }
     }
     [[nodiscard]] BSTR Pass() const noexcept { return text_; }
     void Return() const noexcept {}
@@ -97,15 +99,17 @@ private:
     BSTR text_ = nullptr;
 };
 
-/// Values of any kind: the caller's own, of which a member makes a copy before it does anything.
+/// Values of any kind, likewise.
 template <>
 class Incoming<VARIANT> {
 public:
     explicit Incoming(const Given& given) {
-        if (given.value != nullptr)
-            value_ = Direct(*given.value);
-        else
-            given.ConvertTo(own_.Get()), value_ = own_.Get();
+        if (given.value != nullptr && (given.value->vt & VT_BYREF) == 0) {
+            value_ = *given.value;
+        } else {
+            given.ConvertTo(own_.Get());
+            value_ = own_.Get();
+        }
     }
     [[nodiscard]] VARIANT Pass() const noexcept { return value_; }
     void Return() const noexcept {}
@@ -183,6 +187,7 @@ private:
     template <std::size_t... N>
     static HRESULT To(IDispatch& face, const Member& member, [[maybe_unused]] Arguments& arguments,
                       [[maybe_unused]] VARIANT& result, std::index_sequence<N...> /*positions*/) {
+        static_assert(sizeof...(N) <= Arguments::kMost);
         std::tuple<Incoming<std::tuple_element_t<N, Types>>...> incoming{
             Given{arguments.values[N], member.parameters.begin()[N], N, arguments.refused}...};
         HRESULT outcome = S_OK;

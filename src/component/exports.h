@@ -9,7 +9,7 @@ extern "C" {
 HRESULT STDMETHODCALLTYPE DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv);
 
 /// S_OK where no object of the library and no lock is left, else S_FALSE. Registered host objects don't
-/// count: they stay for the life of their thread.
+/// count: they stay until another is registered, or none, or their thread ends.
 HRESULT STDMETHODCALLTYPE DllCanUnloadNow();
 
 /// Writes, or removes, the manifest beside the library, which tells hosts the classes and where the library

@@ -53,12 +53,16 @@ Ref<Object> OwnObject(IUnknown* face) noexcept {
     return object;
 }
 
-Ref<Object> ObjectFrom(IUnknown* object) {
-    if (object == nullptr) return {};
+std::optional<Ref<Object>> TryObjectFrom(IUnknown* object) {
+    if (object == nullptr) return Ref<Object>();
     if (Ref<Object> own = OwnObject(object)) return own;
-    auto dispatch = Com<IDispatch>::Of(object);
-    if (!dispatch) throw Failure(Err::TypeMismatch);
-    return Make<ForeignObject>(std::move(dispatch));
+    if (auto dispatch = Com<IDispatch>::Of(object)) return Make<ForeignObject>(std::move(dispatch));
+    return {};
+}
+
+Ref<Object> ObjectFrom(IUnknown* object) {
+    if (const auto found = TryObjectFrom(object)) return *found;
+    throw Failure(Err::TypeMismatch);
 }
 
 IDispatch* ObjectOut(const Ref<Object>& object) {

@@ -1,10 +1,8 @@
 #include "component/values.h"
 
-#include "platform/number.h"
-
 #include <array>
 #include <cstring>
-#include <limits>
+#include <utility>
 
 namespace htdrdd {
 namespace {
@@ -15,12 +13,6 @@ bool IsList(SAFEARRAY& array) {
     return SafeArrayGetDim(&array) == 1 && SUCCEEDED(SafeArrayGetVartype(&array, &kind)) &&
            SizeOfKind(kind) > 0 && array.cbElements == SizeOfKind(kind) &&
            (array.pvData != nullptr || array.rgsabound[0].cElements == 0);
-}
-
-/// The object, or Other for one that can't be called by name.
-Variant ObjectOr(IUnknown* object) {
-    if (object != nullptr && !Com<IDispatch>::Of(object)) return Variant::Other();
-    return ObjectFrom(object);
 }
 
 } // namespace
@@ -59,7 +51,7 @@ Variant ValueFrom(const VARIANT& value) {
     case VT_I2: return static_cast<std::int16_t>(value.iVal);
     case VT_I4:
     case VT_INT: return static_cast<std::int32_t>(value.lVal);
-    // Integers of other widths are numbers, but no positions of a kind that members tell apart.
+    // Other integers are numbers, but no positions where members tell kinds apart.
     case VT_I1: return static_cast<double>(value.cVal);
     case VT_UI1: return static_cast<double>(value.bVal);
     case VT_UI2: return static_cast<double>(value.uiVal);
@@ -73,7 +65,9 @@ Variant ValueFrom(const VARIANT& value) {
     case VT_CY: return static_cast<double>(value.llVal) / 10000;
     case VT_BSTR: return Text(View(value.bstrVal));
     case VT_DISPATCH:
-    case VT_UNKNOWN: return ObjectOr(value.punkVal);
+    case VT_UNKNOWN:
+        if (const auto object = TryObjectFrom(value.punkVal)) return *object;
+        return Variant::Other();
     case VT_ERROR: return value.scode == DISP_E_PARAMNOTFOUND ? Variant() : Variant::Other();
     default: return Variant::Other();
     }

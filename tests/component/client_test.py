@@ -50,6 +50,14 @@ class Client(unittest.TestCase):
         with open(OUT + "merged", encoding="utf-16") as saved:
             self.assertIn("CorrectAnswer=(B,D)\t(A,C)\n", saved.read())
 
+    def test_example_shows_what_it_is_told(self):
+        with open(SAMPLES + "quiz.rdd", "rb") as whole, open(OUT + "cut.rdd", "wb") as cut:
+            cut.write(whole.read()[:6000])
+        command = [sys.executable, SOURCE + "/examples/python/client.py", COMPONENT, OUT + "cut.rdd", "", ""]
+        run = subprocess.run(command, capture_output=True, text=True)
+        self.assertEqual(run.returncode, 1)
+        self.assertRegex(run.stderr, r"^Invalid File: An error occurred .* \[&OK\]\n.*couldn't be read\n$")
+
     def test_texts_and_lists(self):
         rdd, answers, text = create("clsHTDRDD"), create("clsHTDRDDStrings"), "a\0b\ud800 – \U0001F600"
         rdd.Notes = text

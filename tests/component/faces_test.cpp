@@ -237,6 +237,14 @@ TEST_F(Component, ObjectsMayBeReleasedWhileOthersAreAskedWhatTheyAre) {
     EXPECT_EQ(found->Unadvise(cookie), S_OK);
     EXPECT_EQ(found->Unadvise(cookie), CONNECT_E_NOCONNECTION);
 
+    // An argument that is asked may change another one's variable.
+    BSTR key = NewBstr(u"key");
+    outsider.whenAsked = [&] { SysFreeString(std::exchange(key, NewBstr(u"other"))); };
+    EXPECT_EQ(Call(*document->Questions, u"Add", DISPATCH_METHOD, {object, By(VT_BSTR, &key)}),
+              DISP_E_EXCEPTION);
+    outsider.whenAsked = nullptr;
+    SysFreeString(key);
+
     // The end of what a header holds may look into the header.
     const auto header = document->Header;
     header->Item(u"host", ObjectFrom(&outsider));
