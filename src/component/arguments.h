@@ -4,6 +4,7 @@
 #include "component/foreign_object.h"
 #include "component/values.h"
 #include "platform/collection.h"
+#include "platform/text_place.h"
 
 #include <concepts>
 #include <cstdint>
@@ -87,25 +88,34 @@ private:
     TextView text_;
 };
 /// A text by reference, which may change during the call.
-template <class P>
-requires std::same_as<P, TextView> || std::same_as<P, Text&>
-class Argument<P, BSTR*> {
+template <>
+class Argument<TextView, BSTR*> {
 public:
-    explicit Argument(BSTR* variable) : variable_(variable) {
-        if (variable != nullptr) text_ = View(*variable);
+    explicit Argument(BSTR* variable) : text_(variable != nullptr ? View(*variable) : TextView()) {}
+    [[nodiscard]] TextView Value() const noexcept { return text_; }
+    void Return() const noexcept {}
+
+private:
+    Text text_;
+};
+/// One that the member changes, at once.
+template <>
+class Argument<TextPlace, BSTR*> {
+public:
+    explicit Argument(BSTR* variable) noexcept : variable_(variable) {}
+    [[nodiscard]] TextPlace Value() noexcept {
+        if (variable_ == nullptr) return none_;
+        return {variable_, [](const void* place) { return View(*static_cast<const BSTR*>(place)); },
+                [](void* place, TextView text) {
+                    BSTR& variable = *static_cast<BSTR*>(place);
+                    if (text != View(variable)) SysFreeString(std::exchange(variable, NewBstr(text)));
+                }};
     }
-    [[nodiscard]] P Value() noexcept { return text_; }
-    void Return() {
-        if constexpr (std::same_as<P, Text&>) {
-            if (variable_ == nullptr || text_ == View(*variable_)) return;
-            BSTR changed = NewBstr(text_);
-            SysFreeString(std::exchange(*variable_, changed));
-        }
-    }
+    void Return() const noexcept {}
 
 private:
     BSTR* variable_;
-    Text text_;
+    Text none_;
 };
 
 /// Values of any kind, also as what names an entry of a list.

@@ -7,6 +7,7 @@
 #include "platform/dictionary.h"
 #include "platform/event.h"
 #include "platform/object.h"
+#include "platform/text_place.h"
 #include "platform/variant.h"
 
 #include <cstdint>
@@ -30,12 +31,12 @@ public:
 
     /// Takes the outer blanks off the caller's key, also where it is in use, which changes nothing else, and
     /// stores the record under it.
-    void Add(Text& sKey, const Ref<Record>& oRecord) noexcept {
+    void Add(TextPlace sKey, const Ref<Record>& oRecord) noexcept {
         try {
             const Ref<RecordLibrary> self(this); // a handler may release it
-            sKey = Trimmed(sKey);
-            if (mRecords->Exists(sKey)) return;
-            const Text key = sKey;
+            const Text key(Trimmed(sKey.Get()));
+            sKey.Set(key);
+            if (mRecords->Exists(key)) return;
             Text record = ToText(oRecord);
             mRecords->Add(key, std::move(record));
             Reload.Raise();

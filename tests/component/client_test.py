@@ -146,11 +146,12 @@ class Client(unittest.TestCase):
         self.assertTrue(held[0].Read(SAMPLES + "quiz.rdd"))
         self.assertEqual((calls, held), (["Fractions quiz"], []))
         stop()
-        stop = scales.connect(Reload=lambda: calls.append(scales.Count))
-        scales.Add("x", rdd.GradeScale)
+        key = Ref(" x ")
+        stop = scales.connect(Reload=lambda: calls.append((scales.Count, scales.Keys())))
+        scales.Add(key, rdd.GradeScale)
         stop()
-        scales.Remove("x")
-        self.assertEqual(calls[1:], [1])
+        scales.Remove(key)
+        self.assertEqual((key.value, calls[1:]), ("x", [(1, ["x"])]))
         self.assertEqual(refused(lambda: scales.connect(AfterRead=print))[0], htdrdd91.NO_SUCH_EVENT)
 
     def test_threads_have_their_own_hosts(self):

@@ -6,6 +6,7 @@
 #include "component/living.h"
 #include "component/registration.h"
 #include "foundation/clsDZip.h"
+#include "grade_scales/clsHTDGradeScaleManager.h"
 #include "platform/process.h"
 #include "support/session.h"
 
@@ -138,6 +139,18 @@ TEST_F(Component, VariablesOfAnyKindGetWhatAMemberWrites) {
               S_OK);
     EXPECT_EQ(number.Get().lVal, 1);
     EXPECT_EQ(real, 0);
+}
+
+TEST_F(Component, AKeyIsTrimmedBeforeItsEvent) {
+    const auto scales = Make<clsHTDGradeScaleManager>();
+    auto& slots = static_cast<_clsHTDGradeScaleManager&>(FaceOf(*scales));
+    auto* scale = static_cast<_clsHTDRDDGradeScale*>(&FaceOf(*rdd->GradeScale));
+    BSTR key = NewBstr(u" letters ");
+    Text seen;
+    scales->Reload.Connect([&] { seen = View(key); });
+    EXPECT_EQ(slots.Add(&key, &scale), S_OK);
+    EXPECT_EQ(seen, u"letters");
+    SysFreeString(key);
 }
 
 TEST_F(Component, CallsThatDontFitAreRefused) {
