@@ -268,7 +268,7 @@ inline NaturalValue Natural(const VARIANT* value) {
 }
 inline std::int32_t Natural(LONG value) noexcept { return static_cast<std::int32_t>(value); }
 
-/// The parameters of a member function, less the one that tells the caller's line.
+/// The parameters of a member function, of which the last may tell the caller's line.
 template <class F>
 struct ParametersOf;
 template <class C, class R, class... P>

@@ -7,11 +7,12 @@
 namespace htdrdd {
 namespace {
 
-/// Whether an array has one dimension and elements of a kind that the library knows.
+/// Whether an array has one dimension, elements of a kind that the library knows, and positions of 32 bits.
 bool IsList(SAFEARRAY& array) {
     VARTYPE kind = VT_EMPTY;
     return SafeArrayGetDim(&array) == 1 && SUCCEEDED(SafeArrayGetVartype(&array, &kind)) &&
            SizeOfKind(kind) > 0 && array.cbElements == SizeOfKind(kind) &&
+           array.rgsabound[0].cElements <= std::int64_t{INT32_MAX} - array.rgsabound[0].lLbound &&
            (array.pvData != nullptr || array.rgsabound[0].cElements == 0);
 }
 
@@ -42,7 +43,7 @@ Variant ValueFrom(const VARIANT& value) {
     if ((value.vt & VT_BYREF) != 0) return ValueFrom(Direct(value));
     if ((value.vt & VT_ARRAY) != 0) {
         const bool isList = value.parray == nullptr || IsList(*value.parray);
-        return isList ? Variant(ArrayFrom(value.parray)) : Variant::Other();
+        return isList ? Variant(ArrayOf<Variant>(value.parray)) : Variant::Other();
     }
     switch (value.vt) {
     case VT_EMPTY: return Variant::Empty();
@@ -115,48 +116,34 @@ void ValueOut(VARIANT& to, const Variant& value) {
     to = made;
 }
 
-void Convert(const Variant& value, Text& to) { to = value.ToText(); }
-void Convert(const Variant& value, std::int32_t& to) { to = value.ToInteger32(); }
-void Convert(const Variant& value, bool& to) { to = value.ToBoolean(); }
-
-Array<Variant> ArrayFrom(SAFEARRAY* array) {
-    if (array == nullptr) return {};
-    if (SafeArrayGetDim(array) != 1) throw Failure(Err::Subscript);
-    if (!IsList(*array)) throw Failure(Err::TypeMismatch);
-    VARIANT element{};
-    SafeArrayGetVartype(array, &element.vt);
-    const auto [count, lowerBound] = array->rgsabound[0];
-    const bool isVariant = element.vt == VT_VARIANT;
-    const std::size_t size = array->cbElements;
-    std::vector<Variant> items;
-    items.reserve(count);
-    const auto* place = static_cast<const char*>(array->pvData);
-    for (ULONG n = 0; n < count; ++n, place += size) {
-        std::memcpy(isVariant ? static_cast<void*>(&element) : &element.llVal, place, size);
-        items.push_back(ValueFrom(element));
-    }
-    return Array<Variant>(std::move(items), lowerBound);
+OutsideList::OutsideList(SAFEARRAY& array) : array_(array), place_(static_cast<const char*>(array.pvData)) {
+    if (SafeArrayGetDim(&array) != 1) throw Failure(Err::Subscript);
+    if (!IsList(array)) throw Failure(Err::TypeMismatch);
+    SafeArrayGetVartype(&array, &kind_);
 }
 
-SAFEARRAY* ArrayOut(const Array<Variant>& array, VARTYPE type) {
-    if (!array.HasStorage()) return nullptr;
-    SAFEARRAYBOUND bound{static_cast<ULONG>(array.Items().size()), array.LowerBound()};
-    SAFEARRAY* const made = SafeArrayCreate(type, 1, &bound);
-    if (made == nullptr) throw Failure(Err::Memory);
-    try {
-        auto* place = static_cast<char*>(made->pvData);
-        for (const Variant& item : array.Items()) {
-            VARIANT element{}; // moved into its place
-            ValueOut(element, item, type);
-            std::memcpy(place, type == VT_VARIANT ? static_cast<void*>(&element) : &element.llVal,
-                        made->cbElements);
-            place += made->cbElements;
-        }
-    } catch (...) {
-        SafeArrayDestroy(made);
-        throw;
-    }
-    return made;
+Variant OutsideList::Next() {
+    VARIANT element{};
+    element.vt = kind_;
+    std::memcpy(kind_ == VT_VARIANT ? static_cast<void*>(&element) : &element.llVal, place_,
+                array_.cbElements);
+    place_ += array_.cbElements;
+    return ValueFrom(element);
+}
+
+NewOutsideList::NewOutsideList(VARTYPE kind, std::size_t count, std::int32_t lowerBound) : kind_(kind) {
+    SAFEARRAYBOUND bound{static_cast<ULONG>(count), lowerBound};
+    array_ = SafeArrayCreate(kind, 1, &bound);
+    if (array_ == nullptr) throw Failure(Err::Memory);
+    place_ = static_cast<char*>(array_->pvData);
+}
+
+void NewOutsideList::Add(const Variant& value) {
+    VARIANT element{}; // moved into its place
+    ValueOut(element, value, kind_);
+    std::memcpy(place_, kind_ == VT_VARIANT ? static_cast<void*>(&element) : &element.llVal,
+                array_->cbElements);
+    place_ += array_->cbElements;
 }
 
 void ValueOut(VARIANT& to, const Variant& value, VARTYPE kind) {

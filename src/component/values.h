@@ -7,7 +7,9 @@
 #include "platform/array.h"
 #include "platform/variant.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace htdrdd {
@@ -40,31 +42,61 @@ private:
     VARIANT value_{};
 };
 
-/// The elements of an array of one dimension with its lower bound; a null pointer is an array without
-/// storage. Fails with 9 for more dimensions, and with 13 for elements of a kind that the library
-/// doesn't know.
-[[nodiscard]] Array<Variant> ArrayFrom(SAFEARRAY* array);
-/// A new array with elements of a kind, for whoever gets it; null for one without storage.
-[[nodiscard]] SAFEARRAY* ArrayOut(const Array<Variant>& array, VARTYPE type);
+/// The elements of an array of one dimension, one after the other.
+class OutsideList {
+public:
+    /// Fails with 9 for more dimensions, and with 13 for elements of a kind that the library doesn't know.
+    explicit OutsideList(SAFEARRAY& array);
+    [[nodiscard]] std::size_t Count() const noexcept { return array_.rgsabound[0].cElements; }
+    [[nodiscard]] std::int32_t LowerBound() const noexcept {
+        return static_cast<std::int32_t>(array_.rgsabound[0].lLbound);
+    }
+    [[nodiscard]] Variant Next();
 
-void Convert(const Variant& value, Text& to);
-void Convert(const Variant& value, std::int32_t& to);
-void Convert(const Variant& value, bool& to);
+private:
+    SAFEARRAY& array_;
+    VARTYPE kind_ = VT_EMPTY;
+    const char* place_;
+};
 
-/// Arrays of one kind of element. Each element is turned into that kind.
+/// A new array of one dimension, which ends here unless it is given away.
+class NewOutsideList {
+public:
+    NewOutsideList(VARTYPE kind, std::size_t count, std::int32_t lowerBound);
+    NewOutsideList(const NewOutsideList&) = delete;
+    NewOutsideList& operator=(const NewOutsideList&) = delete;
+    ~NewOutsideList() { SafeArrayDestroy(array_); }
+    /// Fills the next element, in the kind of the array.
+    void Add(const Variant& value);
+    [[nodiscard]] SAFEARRAY* Detach() noexcept { return std::exchange(array_, nullptr); }
+
+private:
+    SAFEARRAY* array_;
+    VARTYPE kind_;
+    char* place_ = nullptr;
+};
+
+inline void Convert(const Variant& value, Variant& to) { to = value; }
+inline void Convert(const Variant& value, Text& to) { to = value.ToText(); }
+inline void Convert(const Variant& value, std::int32_t& to) { to = value.ToInteger32(); }
+inline void Convert(const Variant& value, bool& to) { to = value.ToBoolean(); }
+
+/// The elements of an array with its lower bound, each turned into a T; a null pointer is an array without
+/// storage. Fails as OutsideList does.
 template <class T>
 [[nodiscard]] Array<T> ArrayOf(SAFEARRAY* array) {
-    const Array<Variant> values = ArrayFrom(array);
-    if (!values.HasStorage()) return {};
+    if (array == nullptr) return {};
+    OutsideList list(*array);
     std::vector<T> items;
-    items.reserve(values.Items().size());
-    for (const Variant& value : values.Items()) {
+    items.reserve(list.Count());
+    for (std::size_t left = list.Count(); left > 0; --left) {
         T item{};
-        Convert(value, item);
+        Convert(list.Next(), item);
         items.push_back(std::move(item));
     }
-    return Array<T>(std::move(items), values.LowerBound());
+    return Array<T>(std::move(items), list.LowerBound());
 }
+
 template <class T>
 inline constexpr VARTYPE kElement = VT_VARIANT;
 template <>
@@ -73,13 +105,13 @@ template <>
 inline constexpr VARTYPE kElement<std::int32_t> = VT_I4;
 template <>
 inline constexpr VARTYPE kElement<bool> = VT_BOOL;
+/// A new array with elements of a kind, for whoever gets it; null for one without storage.
 template <class T>
-[[nodiscard]] SAFEARRAY* ArrayOut(const Array<T>& array) {
+[[nodiscard]] SAFEARRAY* ArrayOut(const Array<T>& array, VARTYPE kind = kElement<T>) {
     if (!array.HasStorage()) return nullptr;
-    std::vector<Variant> values;
-    values.reserve(array.Items().size());
-    for (const T& item : array.Items()) values.emplace_back(item);
-    return ArrayOut(Array<Variant>(std::move(values), array.LowerBound()), kElement<T>);
+    NewOutsideList made(kind, array.Items().size(), array.LowerBound());
+    for (const T& item : array.Items()) made.Add(item);
+    return made.Detach();
 }
 
 } // namespace htdrdd

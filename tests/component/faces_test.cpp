@@ -362,7 +362,7 @@ TEST(OutsideArrays, HoldTheirElements) {
     EXPECT_EQ(SafeArrayGetUBound(copy, 2, &upper) + upper, 1);
     place[0] = 3;
     EXPECT_EQ(SafeArrayGetElement(copy, place.data(), &upper), DISP_E_BADINDEX);
-    EXPECT_THROW(static_cast<void>(ArrayFrom(copy)), Failure) << "lists have one dimension";
+    EXPECT_THROW(static_cast<void>(ArrayOf<Variant>(copy)), Failure) << "lists have one dimension";
     void* data = nullptr;
     EXPECT_EQ(SafeArrayAccessData(copy, &data), S_OK);
     EXPECT_EQ(SafeArrayDestroy(copy), DISP_E_ARRAYISLOCKED);
