@@ -1,6 +1,7 @@
 /// What calls from outside cost.
-#include "component/values.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/component/HTDRdd91.h"
+#include "htdrdd91/component/values/values.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <benchmark/benchmark.h>
 

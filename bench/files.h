@@ -2,7 +2,7 @@
 #pragma once
 
 #include "generator.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <filesystem>
 #include <map>

@@ -1,8 +1,9 @@
 /// Libraries and exchange files of scales and scaled scores, and grades.
 #include "files.h"
-#include "grade_scales/clsHTDGradeScaleManager.h"
-#include "platform/number.h"
-#include "scaled_scores/clsHTDScaledScoreManager.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>

@@ -1,6 +1,8 @@
 #include "generator.h"
 
-#include "platform/number.h"
+#include "htdrdd91/base/array.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 /// Definitions of any size for the benchmarks: the same parameters give the same bytes.
 #pragma once
 
-#include "platform/text.h"
+#include "htdrdd91/base/text.h"
 
 #include <string>
 

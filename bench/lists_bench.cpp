@@ -1,7 +1,7 @@
 /// Long lists.
-#include "foundation/clsHTDRDDStrings.h"
-#include "model/clsHTDRDDSequence.h"
-#include "platform/number.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/foundation/clsHTDRDDStrings.h"
+#include "htdrdd91/model/clsHTDRDDSequence.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,6 @@
 /// Merging text keys.
 #include "files.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>

@@ -1,5 +1,6 @@
 /// Reading definition files, and letting go of what was read.
 #include "files.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>

@@ -1,5 +1,6 @@
 /// Saving definitions, and reading the archives.
 #include "files.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>

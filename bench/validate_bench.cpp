@@ -1,5 +1,6 @@
 /// Judging definitions that break no rule, so that every rule is looked at throughout.
 #include "files.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,10 +1,11 @@
 /// Calls members of all classes by name with arguments of any kind. So does a host that they call.
-#include "component/classes.h"
-#include "component/foreign_object.h"
-#include "component/living.h"
-#include "foundation/clsDZip.h"
 #include "fuzzing.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/component/faces/classes.h"
+#include "htdrdd91/component/values/module_reference.h"
+#include "htdrdd91/component/values/objects.h"
+#include "htdrdd91/foundation/clsDZip.h"
+#include "htdrdd91/model/clsHTDRDD.h"
+#include "htdrdd91/platform/thread_state.h"
 #include "support/memory_file_system.h"
 
 #include <deque>
@@ -102,7 +103,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     ThisThread().errorHost = nullptr;
     outsider.objects.clear();
-    Demand(outsider.references == 0 && livingOutside == 0);
+    Demand(outsider.references == 0 && moduleReferences == 0);
     UseFileSystem(nullptr);
     return 0;
 }

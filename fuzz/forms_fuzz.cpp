@@ -1,8 +1,9 @@
 /// Any bytes as an exchange file, as a library, as the text of a scaled score and as a clip: what could be
 /// read is written, and reading that gives the same again.
 #include "fuzzing.h"
-#include "grade_scales/clsHTDGradeScaleManager.h"
-#include "scaled_scores/clsHTDScaledScoreManager.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 #include "support/memory_file_system.h"
 
 #include <cstdint>

@@ -1,8 +1,8 @@
 /// What the fuzzers share.
 #pragma once
 
-#include "foundation/ErrorHost.h"
-#include "platform/thread_state.h"
+#include "htdrdd91/foundation/ErrorHost.h"
+#include "htdrdd91/platform/thread_state.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 /// Merges any bytes as a text key. The first byte chooses the question that tells the version.
 #include "fuzzing.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 #include "support/memory_file_system.h"
 #include "support/words.h"
 

@@ -1,9 +1,10 @@
 /// Reads any bytes as a definition file and walks what came of them.
-#include "foundation/basPublicFiles.h"
 #include "fuzzing.h"
-#include "htdrdd91.h"
-#include "platform/number.h"
-#include "platform/text_stream.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/definition_file/basPublicUnicode.h"
+#include "htdrdd91/foundation/basPublicFiles.h"
+#include "htdrdd91/htdrdd91.h"
+#include "htdrdd91/platform/text_stream.h"
 #include "support/memory_file_system.h"
 #include "support/telling.h"
 

@@ -1,10 +1,12 @@
 /// Numbers, texts and sorting: what is written comes back, and whatever is read fails in the known ways only.
-#include "foundation/basPublicCipher.h"
-#include "foundation/basPublicSort.h"
-#include "foundation/basPublicText.h"
 #include "fuzzing.h"
-#include "platform/number.h"
-#include "platform/region.h"
+#include "htdrdd91/base/array.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/base/region.h"
+#include "htdrdd91/foundation/basPublicCipher.h"
+#include "htdrdd91/foundation/basPublicSort.h"
+#include "htdrdd91/foundation/basPublicText.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <algorithm>
 #include <array>

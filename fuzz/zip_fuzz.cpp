@@ -1,7 +1,9 @@
 /// Takes any bytes apart as an archive.
-#include "foundation/basPublicFiles.h"
-#include "foundation/clsDZip.h"
 #include "fuzzing.h"
+#include "htdrdd91/definition_file/basPublicUnicode.h"
+#include "htdrdd91/foundation/basPublicFiles.h"
+#include "htdrdd91/foundation/clsDZip.h"
+#include "htdrdd91/platform/file_system.h"
 #include "support/memory_file_system.h"
 
 #include <string>

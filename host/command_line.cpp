@@ -1,6 +1,5 @@
 #include "host/command_line.h"
 
-#include "foundation/version.h"
 #include "host/convert/convert.h"
 #include "host/diff/diff.h"
 #include "host/header/header.h"
@@ -12,6 +11,7 @@
 #include "host/score/score.h"
 #include "host/show/show.h"
 #include "host/validate/validate.h"
+#include "htdrdd91/foundation/version.h"
 
 #include <CLI/CLI.hpp>
 

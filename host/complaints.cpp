@@ -1,6 +1,7 @@
 #include "host/complaints.h"
 
 #include "host/output.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 /// What the library complains of and asks, on standard error.
 #pragma once
 
-#include "foundation/ErrorHost.h"
+#include "htdrdd91/foundation/ErrorHost.h"
 
 namespace htdrdd::host {
 

@@ -1,8 +1,9 @@
 #include "host/definitions.h"
 
 #include "host/output.h"
-#include "platform/file_system.h"
-#include "platform/region.h"
+#include "htdrdd91/base/region.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/file_system.h"
 
 #include <charconv>
 #include <filesystem>

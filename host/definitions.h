@@ -3,7 +3,7 @@
 
 #include "host/complaints.h"
 #include "host/input.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <optional>
 #include <string>

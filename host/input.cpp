@@ -1,6 +1,8 @@
 #include "host/input.h"
 
-#include "foundation/basPublicFiles.h"
+#include "htdrdd91/foundation/basPublicFiles.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/file_system.h"
 
 #include <array>
 #include <cstdio>

@@ -1,7 +1,7 @@
 /// The files that a command reads.
 #pragma once
 
-#include "foundation/temporary.h"
+#include "htdrdd91/foundation/temporary.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,7 @@
 #include "host/command_line.h"
 #include "host/output.h"
-#include "platform/failure.h"
+#include "htdrdd91/base/failure.h"
+#include "htdrdd91/platform/encoding.h"
 
 int main(int argc, char** argv) {
     using namespace htdrdd;

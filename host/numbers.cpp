@@ -1,7 +1,7 @@
 #include "host/numbers.h"
 
-#include "foundation/HTDValue.h"
-#include "platform/number.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/foundation/HTDValue.h"
 
 #include <array>
 #include <charconv>

@@ -1,5 +1,7 @@
 #include "host/output.h"
 
+#include "htdrdd91/platform/encoding.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <system_error>

@@ -1,7 +1,7 @@
 /// Standard output and standard error.
 #pragma once
 
-#include "platform/text.h"
+#include "htdrdd91/base/text.h"
 
 #include <string>
 #include <string_view>

@@ -1,5 +1,7 @@
 #include "host/record_json.h"
 
+#include "htdrdd91/platform/encoding.h"
+
 namespace htdrdd::host {
 namespace {
 

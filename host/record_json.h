@@ -1,7 +1,7 @@
 /// Grade scales and scaled scores as JSON.
 #pragma once
 
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,8 +1,8 @@
 #include "host/records.h"
 
-#include "grade_scales/grade_scale_rules.h"
 #include "host/output.h"
-#include "scaled_scores/scaled_score_rules.h"
+#include "htdrdd91/grade_scales/grade_scale_rules.h"
+#include "htdrdd91/scaled_scores/scaled_score_rules.h"
 
 namespace htdrdd::host {
 namespace {

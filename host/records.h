@@ -1,11 +1,11 @@
 /// What commands do alike with grade scales and with scaled scores.
 #pragma once
 
-#include "foundation/findings.h"
-#include "grade_scales/clsHTDGradeScaleManager.h"
 #include "host/definitions.h"
 #include "host/wording.h"
-#include "scaled_scores/clsHTDScaledScoreManager.h"
+#include "htdrdd91/foundation/findings.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 
 namespace htdrdd::host {
 

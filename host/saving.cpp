@@ -2,7 +2,8 @@
 
 #include "host/json_text.h"
 #include "host/output.h"
-#include "platform/file_system.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/file_system.h"
 
 #include <filesystem>
 #include <system_error>

@@ -3,7 +3,7 @@
 
 #include "host/complaints.h"
 #include "host/exit_code.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <functional>
 #include <string>

@@ -1,7 +1,7 @@
 /// Parts of a definition in words.
 #pragma once
 
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 // A program that loads the component when it runs, by nothing but its path: it reads a definition, judges it
 // and lists its questions. host LIBRARY DEFINITION
-#include "component/exports.h"
+#include "htdrdd91/component/entry/exports.h"
 
 #include <cstdio>
 #include <dlfcn.h>

@@ -1,9 +1,10 @@
 #include "host/diff/key_changes.h"
 
-#include "foundation/basPublicText.h"
 #include "host/numbers.h"
 #include "host/wording.h"
-#include "scaled_scores/scaled_score_members.h"
+#include "htdrdd91/foundation/basPublicText.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/scaled_scores/scaled_score_members.h"
 
 #include <algorithm>
 

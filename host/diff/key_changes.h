@@ -1,7 +1,7 @@
 /// What changes between two keys.
 #pragma once
 
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,11 +1,12 @@
 #include "host/library/library.h"
 
-#include "foundation/whole_file.h"
 #include "host/json_text.h"
 #include "host/output.h"
 #include "host/record_json.h"
 #include "host/records.h"
 #include "host/table.h"
+#include "htdrdd91/foundation/temporary.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <filesystem>
 #include <vector>

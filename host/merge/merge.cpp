@@ -5,6 +5,7 @@
 #include "host/diff/key_changes.h"
 #include "host/json_text.h"
 #include "host/output.h"
+#include "htdrdd91/platform/encoding.h"
 
 namespace htdrdd::host {
 namespace {

@@ -4,6 +4,7 @@
 #include "host/output.h"
 #include "host/record_json.h"
 #include "host/table.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <array>
 #include <type_traits>

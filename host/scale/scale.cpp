@@ -6,6 +6,7 @@
 #include "host/records.h"
 #include "host/saving.h"
 #include "host/terminal.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <cstdio>
 #include <unistd.h>

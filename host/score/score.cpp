@@ -1,10 +1,10 @@
 #include "host/score/score.h"
 
-#include "grade_scales/clsHTDGradeScaleManager.h"
 #include "host/definitions.h"
 #include "host/json_text.h"
 #include "host/numbers.h"
 #include "host/output.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
 
 #include <limits>
 

@@ -2,6 +2,7 @@
 
 #include "host/json_text.h"
 #include "host/record_json.h"
+#include "htdrdd91/platform/encoding.h"
 
 namespace htdrdd::host {
 namespace {

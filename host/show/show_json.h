@@ -1,7 +1,7 @@
 /// A definition as JSON.
 #pragma once
 
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/terminal.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <string>
 #include <vector>

@@ -1,11 +1,11 @@
 #include "host/validate/checks.h"
 
-#include "grade_scales/grade_scale_rules.h"
-#include "scaled_scores/scaled_score_members.h"
-#include "scaled_scores/scaled_score_rules.h"
-#include "validation/key_rules.h"
-#include "validation/subtest_rules.h"
-#include "validation/version_rules.h"
+#include "htdrdd91/grade_scales/grade_scale_rules.h"
+#include "htdrdd91/scaled_scores/scaled_score_members.h"
+#include "htdrdd91/scaled_scores/scaled_score_rules.h"
+#include "htdrdd91/validation/key_rules.h"
+#include "htdrdd91/validation/subtest_rules.h"
+#include "htdrdd91/validation/version_rules.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 /// The checks that a definition goes through.
 #pragma once
 
-#include "foundation/findings.h"
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/foundation/findings.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 
 #include "host/output.h"
 #include "host/terminal.h"
-#include "platform/failure.h"
+#include "htdrdd91/base/failure.h"
 
 #include <string>
 #include <unistd.h>

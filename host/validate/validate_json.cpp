@@ -3,6 +3,7 @@
 #include "host/json_text.h"
 #include "host/output.h"
 #include "host/validate/checks.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <nlohmann/json.hpp>
 

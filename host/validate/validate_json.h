@@ -1,7 +1,7 @@
 /// The checks of a definition as JSON.
 #pragma once
 
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 namespace htdrdd::host {
 

@@ -9,7 +9,6 @@ import unittest
 from ctypes import byref, c_int32, c_void_p
 
 SOURCE, COMPONENT = os.environ["HTDRDD_SOURCE_DIR"], os.environ["HTDRDD_COMPONENT"]
-sys.path.insert(0, SOURCE + "/examples/python")
 import htdrdd91
 from htdrdd91 import DISPATCH_INTERFACE, FACTORY_INTERFACE, MISSING, NOTHING, ComponentError, Object, Ref, create, guid
 

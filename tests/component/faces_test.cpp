@@ -1,13 +1,18 @@
 // What Python hosts can't see of the component: kinds of arguments, classes that they don't reach, memory.
-#include "component/class_factory.h"
-#include "component/classes.h"
-#include "component/failures.h"
-#include "component/foreign_object.h"
-#include "component/living.h"
-#include "component/registration.h"
-#include "foundation/clsDZip.h"
-#include "grade_scales/clsHTDGradeScaleManager.h"
-#include "platform/process.h"
+#include "htdrdd91/base/array.h"
+#include "htdrdd91/component/HTDRdd91.h"
+#include "htdrdd91/component/entry/class_factory.h"
+#include "htdrdd91/component/entry/registration.h"
+#include "htdrdd91/component/faces/classes.h"
+#include "htdrdd91/component/values/failures.h"
+#include "htdrdd91/component/values/module_reference.h"
+#include "htdrdd91/component/values/objects.h"
+#include "htdrdd91/foundation/clsDZip.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/file_system.h"
+#include "htdrdd91/platform/process.h"
+#include "htdrdd91/platform/thread_state.h"
 #include "support/session.h"
 
 namespace htdrdd::test {
@@ -84,12 +89,12 @@ protected:
     }
     UINT refused = 99;
     Outsider outsider;
-    const std::int32_t alive = livingOutside;
+    const std::int32_t alive = moduleReferences;
 
     ~Component() override {
         rdd = nullptr;
         ThisThread().errorHost = nullptr;
-        EXPECT_EQ(livingOutside, alive);
+        EXPECT_EQ(moduleReferences, alive);
         EXPECT_EQ(outsider.references, 0U);
     }
 };
@@ -340,7 +345,7 @@ TEST_F(Component, ArchivesAreReachedThroughTheirFace) {
     EXPECT_EQ(kept, &outsider);
     kept->Release();
     void* factory = nullptr;
-    EXPECT_EQ(GiveFactory(CLSID_clsDZip, IID_IClassFactory, &factory), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(QueryFactory(CLSID_clsDZip, IID_IClassFactory, &factory), CLASS_E_CLASSNOTAVAILABLE);
 }
 
 TEST(OutsideArrays, HoldTheirElements) {

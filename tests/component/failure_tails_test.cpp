@@ -1,9 +1,9 @@
 // What outside hosts get of a failure: members with a failure tail report it and give a default result, the
 // others let it pass. The signatures tell which is which; a change of one has to be meant.
-#include "foundation/clsDZip.h"
-#include "grade_scales/clsHTDGradeScaleManager.h"
-#include "model/clsHTDRDD.h"
-#include "scaled_scores/clsHTDScaledScoreManager.h"
+#include "htdrdd91/foundation/clsDZip.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/model/clsHTDRDD.h"
+#include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 
 namespace htdrdd::test {
 namespace {

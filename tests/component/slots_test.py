@@ -8,7 +8,6 @@ import types
 import unittest
 from ctypes import addressof, c_void_p
 
-sys.path.insert(0, os.environ["HTDRDD_SOURCE_DIR"] + "/examples/python")
 import htdrdd91
 
 LIBRARY = htdrdd91.load(os.environ["HTDRDD_COMPONENT"])

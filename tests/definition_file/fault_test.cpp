@@ -1,3 +1,4 @@
+#include "htdrdd91/platform/encoding.h"
 #include "support/session.h"
 #include "support/telling.h"
 

@@ -1,5 +1,6 @@
-#include "foundation/basPublicCipher.h"
-#include "platform/number.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/foundation/basPublicCipher.h"
+#include "htdrdd91/platform/encoding.h"
 #include "support/cases.h"
 #include "support/session.h"
 #include "support/telling.h"

@@ -1,4 +1,4 @@
-#include "foundation/basPublicCipher.h"
+#include "htdrdd91/foundation/basPublicCipher.h"
 #include "support/session.h"
 
 namespace htdrdd::test {

@@ -1,4 +1,6 @@
-#include "model/basPublicAnswers.h"
+#include "htdrdd91/model/basPublicAnswers.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/thread_state.h"
 #include "support/cases.h"
 #include "support/random_definition.h"
 #include "support/session.h"

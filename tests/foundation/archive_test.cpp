@@ -1,6 +1,7 @@
-#include "foundation/basPublicFiles.h"
-#include "foundation/clsDZip.h"
-#include "platform/zip_archive.h"
+#include "htdrdd91/foundation/clsDZip.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/file_system.h"
+#include "htdrdd91/platform/zip_archive.h"
 #include "support/session.h"
 
 #include <fstream>
@@ -97,25 +98,6 @@ TEST_F(Archives, ReportAFullDisk) {
     files.failingOperation = files.operations + 4; // temporary folder, read, the new file, the write
     EXPECT_FALSE(Make<clsDZip>()->Zip(u"/b.zip", u"/one"));
     EXPECT_EQ(Heard(), Said{"61 Disk full @ clsDZip.Zip"});
-}
-
-TEST_F(Archives, AreLookedIntoForTheMark) {
-    using basPublic::IsUnicodeFile;
-    const auto isUnicode = [&](const std::vector<Member>& members) {
-        Pack(members, u"secret");
-        files.files[u"/exam.RDD"] = files.files[u"/a.zip"];
-        const auto before = files.files.size();
-        const bool result = IsUnicodeFile(u"/exam.RDD", u"secret");
-        EXPECT_TRUE(files.files.size() == before && files.folders.size() == 2U) << "nothing is left";
-        return result;
-    };
-    const std::string mark = Unicode(u"");
-    EXPECT_TRUE(isUnicode({{u"x", mark}}));
-    EXPECT_FALSE(isUnicode({{u"x", "\xFF"}}));
-    EXPECT_TRUE(isUnicode({{u"x", ""}, {u"y.rdd", mark}, {u"z.rdd", ""}}));
-    EXPECT_FALSE(isUnicode({{u"x", mark}, {u"y", mark}})) << "none has the extension";
-    Pack({{u"x", mark}}, u"secret");
-    EXPECT_FALSE(IsUnicodeFile(u"/a.zip", {})) << "it doesn't open";
 }
 
 } // namespace

@@ -1,5 +1,7 @@
-#include "foundation/basError.h"
-#include "platform/process.h"
+#include "htdrdd91/foundation/basError.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/file_system.h"
+#include "htdrdd91/platform/process.h"
 #include "support/cases.h"
 #include "support/session.h"
 
@@ -41,10 +43,8 @@ private:
 class Errors : public Session {
 protected:
     Ref<ScriptHost> script = Make<ScriptHost>();
-    ErrorReport mismatch_{.lLine = 420,
-                          .vError = 13,
-                          .sDescription = u"Type mismatch",
-                          .sLocation = u"HTDRdd91 - clsHTDRDDQuestions.Add"};
+    ErrorReport mismatch_{
+        .lLine = 420, .vError = 13, .sDescription = u"Type mismatch", .sLocation = u"clsHTDRDDQuestions.Add"};
 };
 
 TEST_F(Errors, AHostGetsThirteenArguments) {
@@ -58,7 +58,7 @@ TEST_F(Errors, AHostGetsThirteenArguments) {
                                std::make_exception_ptr(std::bad_alloc()), std::make_exception_ptr(5)}) {
         try {
             std::rethrow_exception(thrown);
-        } catch (...) { ReportFailure(u"HTDRdd91 - basPublic.Test"); }
+        } catch (...) { ReportFailure(u"basPublic.Test"); }
     }
     EXPECT_EQ(script->calls, Words("host_arguments"));
 }
@@ -83,13 +83,13 @@ TEST_F(Errors, WithoutAHostTheLogGrows) {
     rdd->SetError(nullptr);
     EXPECT_EQ(ReportError(mismatch_), 0);
     ReportError({.lLine = 0, .lKind = 2, .sDescription = u"Rule", .sLocation = u"elsewhere"});
-    ReportError({.lLine = -1, .vError = 5, .sLocation = u"HTDRdd91 - a HTDRdd91 - b htdrdd91 - c"});
+    ReportError({.lLine = -1, .vError = 5});
     EXPECT_THAT(files.files[path],
                 ::testing::MatchesRegex(
                     "earlier\r\n"
                     "Error# 13: Type mismatch, Location: clsHTDRDDQuestions.Add; Line: 420, Time: [^,]+\r\n"
                     "Error# 0: Rule, Location: elsewhere, Time: [^,]+\r\n"
-                    "Error# 5: , Location: a b htdrdd91 - c, Time: [^,]+\r\n"));
+                    "Error# 5: , Location: , Time: [^,]+\r\n"));
 }
 
 TEST_F(Errors, ABoxTellsWhatCouldNotBeReported) {

@@ -1,5 +1,7 @@
-#include "grade_scales/clsHTDGradeScaleManager.h"
-#include "scaled_scores/clsHTDScaledScoreManager.h"
+#include "htdrdd91/base/array.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 #include "support/cases.h"
 #include "support/session.h"
 

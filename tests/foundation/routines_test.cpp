@@ -1,7 +1,9 @@
-#include "foundation/basPublicCipher.h"
-#include "foundation/basPublicFiles.h"
-#include "foundation/basPublicSort.h"
-#include "foundation/basPublicText.h"
+#include "htdrdd91/base/array.h"
+#include "htdrdd91/foundation/basPublicCipher.h"
+#include "htdrdd91/foundation/basPublicFiles.h"
+#include "htdrdd91/foundation/basPublicSort.h"
+#include "htdrdd91/foundation/basPublicText.h"
+#include "htdrdd91/platform/encoding.h"
 #include "support/cases.h"
 #include "support/session.h"
 
@@ -40,7 +42,7 @@ TEST_F(FileRoutines, ABackupIsMadeOnceAndWaitsOutASlowFileSystem) {
     EXPECT_EQ(Backup(21, 0), "20 pauses:") << "this is meant: it deletes whether or not the copy succeeded";
 }
 
-TEST_F(FileRoutines, TemporaryNamesAreFreeAndUnicodeFilesAreMarked) {
+TEST_F(FileRoutines, TemporaryNamesAreFree) {
     using ::testing::MatchesRegex;
     EXPECT_THAT(ToUtf8(GetUniqueFileName(u"", u"", u"")),
                 MatchesRegex("/tmp/HTDRd[0-9a-f]{1,3}[0-9A-F]{1,5}\\.[0-9a-f]{1,3}"));
@@ -49,10 +51,6 @@ TEST_F(FileRoutines, TemporaryNamesAreFreeAndUnicodeFilesAreMarked) {
     files.takenNames = 3;
     EXPECT_NE(GetUniqueFileName(u"", u"", u"/in"), u"");
     EXPECT_TRUE(files.takenNames == -1 && files.files.empty());
-    files.files = {{u"/unicode", Unicode(u"")}, {u"/one", "\xFF"}, {u"/other", "\xFE\xFF"}, {u"/empty", ""}};
-    EXPECT_TRUE(IsUnicodeFile(u"/unicode", {}));
-    for (const TextView file : {u"/one", u"/other", u"/empty", u"/none"})
-        EXPECT_FALSE(IsUnicodeFile(file, {}));
     files.failingOperation = files.operations + 1;
     EXPECT_EQ(GetUniqueFileName(u"", u"", u""), u"");
     EXPECT_EQ(Heard(), Said{"70 Permission denied @ basPublic.GetUniqueFileName"});

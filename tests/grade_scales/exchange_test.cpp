@@ -1,4 +1,5 @@
-#include "grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/platform/encoding.h"
 #include "support/cases.h"
 #include "support/session.h"
 

@@ -1,3 +1,5 @@
+#include "htdrdd91/base/array.h"
+#include "htdrdd91/platform/encoding.h"
 #include "merge/merging_session.h"
 #include "support/cases.h"
 

@@ -1,6 +1,7 @@
 /// What a merge makes of a definition, as one line.
 #pragma once
 
+#include "htdrdd91/platform/encoding.h"
 #include "support/session.h"
 #include "support/telling.h"
 

@@ -1,5 +1,6 @@
+#include "htdrdd91/merge/text_key_fields.h"
+#include "htdrdd91/platform/encoding.h"
 #include "merge/merging_session.h"
-#include "merge/text_key_fields.h"
 #include "support/cases.h"
 
 #include <random>

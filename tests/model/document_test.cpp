@@ -1,4 +1,4 @@
-#include "scaled_scores/scaled_score_members.h"
+#include "htdrdd91/scaled_scores/scaled_score_members.h"
 #include "support/cases.h"
 #include "support/session.h"
 #include "support/telling.h"

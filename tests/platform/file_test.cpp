@@ -1,4 +1,6 @@
-#include "platform/text_stream.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/file_system.h"
+#include "htdrdd91/platform/text_stream.h"
 #include "support/cases.h"
 #include "support/session.h"
 

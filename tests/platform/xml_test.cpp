@@ -1,4 +1,4 @@
-#include "platform/xml_document.h"
+#include "htdrdd91/platform/xml_document.h"
 #include "support/cases.h"
 
 #include <cstdlib>

@@ -1,4 +1,5 @@
-#include "scaled_scores/scaled_score_members.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/scaled_scores/scaled_score_members.h"
 #include "support/cases.h"
 #include "support/session.h"
 

@@ -1,8 +1,10 @@
 /// Cases as rows of text, and what they are checked under.
 #pragma once
 
-#include "platform/number.h"
-#include "platform/region.h"
+#include "htdrdd91/base/array.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/base/region.h"
+#include "htdrdd91/platform/encoding.h"
 #include "support/words.h"
 
 #include <gtest/gtest.h>

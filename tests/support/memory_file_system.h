@@ -1,7 +1,7 @@
 /// A file system in memory that fails where a test wants it to.
 #pragma once
 
-#include "platform/file_system.h"
+#include "htdrdd91/platform/file_system.h"
 
 #include <algorithm>
 #include <map>

@@ -1,7 +1,7 @@
 /// Definitions made at random.
 #pragma once
 
-#include "model/clsHTDRDD.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 
 #include <cmath>
 #include <initializer_list>

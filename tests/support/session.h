@@ -1,9 +1,11 @@
 /// What a test works with: a host and a desktop that record, files in memory, and definitions as texts.
 #pragma once
 
-#include "foundation/ErrorHost.h"
-#include "model/clsHTDRDD.h"
-#include "platform/thread_state.h"
+#include "htdrdd91/foundation/ErrorHost.h"
+#include "htdrdd91/model/clsHTDRDD.h"
+#include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/platform/machine_region.h"
+#include "htdrdd91/platform/thread_state.h"
 #include "support/memory_file_system.h"
 
 #include <gtest/gtest.h>

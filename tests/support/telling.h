@@ -1,8 +1,8 @@
 /// All that a definition holds as one text.
 #pragma once
 
-#include "model/clsHTDRDD.h"
-#include "platform/number.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/model/clsHTDRDD.h"
 #include "support/words.h"
 
 #include <string>

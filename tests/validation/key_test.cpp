@@ -1,7 +1,7 @@
-#include "platform/number.h"
+#include "htdrdd91/base/number.h"
+#include "htdrdd91/validation/key_rules.h"
 #include "support/rules.h"
 #include "support/session.h"
-#include "validation/key_rules.h"
 
 namespace htdrdd::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/number.h"
+#include "htdrdd91/base/number.h"
 #include "support/session.h"
 
 namespace htdrdd::test {

@@ -1,6 +1,6 @@
+#include "htdrdd91/validation/version_rules.h"
 #include "support/rules.h"
 #include "support/session.h"
-#include "validation/version_rules.h"
 
 namespace htdrdd::test {
 namespace {

@@ -1,0 +1,22 @@
+/// Libraries of scaled scores.
+#pragma once
+
+#include "htdrdd91/foundation/record_library.h"
+#include "htdrdd91/scaled_scores/clsHTDRDDScaledScore.h"
+
+namespace htdrdd {
+
+extern template class RecordLibrary<clsHTDRDDScaledScore, u"clsHTDScaledScoreManager">;
+
+/// Scaled scores, each held as its ToString text. What Item gives has DB->Valid true, since no text tells
+/// otherwise. LoadFromString passes over a piece that can't be read, and takes an empty one for a cleared
+/// record under the empty key.
+class clsHTDScaledScoreManager final
+    : public RecordLibrary<clsHTDRDDScaledScore, u"clsHTDScaledScoreManager"> {
+private:
+    [[nodiscard]] Text ToText(const Ref<clsHTDRDDScaledScore>& oScaledScore) const override;
+    [[nodiscard]] Ref<clsHTDRDDScaledScore> FromText(TextView sScaledScore) const override;
+    void Load(TextView sPiece) override;
+};
+
+} // namespace htdrdd
