@@ -1,32 +1,29 @@
 #include "host/record_json.h"
 
+#include "host/json_text.h"
 #include "htdrdd91/platform/encoding.h"
+#include "htdrdd91/scaled_scores/scaled_score_list.h"
+
+#include <array>
 
 namespace htdrdd::host {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json Of(TextView text) { return ToUtf8(text); }
+constexpr std::array<TextView, 3> kSecrets{u"Connect", u"User", u"Password"};
+static_assert(AreMembers<clsHTDRDDScaledScoreDB>(kSecrets));
 
-Json Of(const clsHTDRDDScaledScoreDB& db, bool bSecrets) {
-    return {{"Name", Of(db.Name)},
-            {"Catalog", Of(db.Catalog)},
-            {"Table", Of(db.Table)},
-            {"MinFieldPrimary", Of(db.MinFieldPrimary)},
-            {"MaxFieldPrimary", Of(db.MaxFieldPrimary)},
-            {"MinFieldSecondary", Of(db.MinFieldSecondary)},
-            {"MaxFieldSecondary", Of(db.MaxFieldSecondary)},
-            {"ScoreField", Of(db.ScoreField)},
-            {"ScoreGrade", Of(db.ScoreGrade)},
-            {"DBType", db.DBType},
-            {"Connect", Of(Masked(db.Connect, bSecrets))},
-            {"DirectoryBased", db.DirectoryBased},
-            {"DSNBased", db.DSNBased},
-            {"DSNName", Of(db.DSNName)},
-            {"User", Of(Masked(db.User, bSecrets))},
-            {"Password", Of(Masked(db.Password, bSecrets))},
-            {"Valid", db.Valid}};
+Json ConnectionAsJson(const clsHTDRDDScaledScoreDB& db, bool bSecrets) {
+    Json::object_t items;
+    EachMember<clsHTDRDDScaledScoreDB>([&](auto row) {
+        const auto& value = db.*row.member;
+        if constexpr (Holds(kSecrets, row.name))
+            items.emplace_back(ToUtf8(row.name), JsonOf(Masked(value, bSecrets)));
+        else
+            items.emplace_back(ToUtf8(row.name), JsonOf(value));
+    });
+    return items;
 }
 
 } // namespace
@@ -37,20 +34,20 @@ Json RecordAsJson(const clsHTDRDDGradeScale& scale, bool /*bSecrets*/) {
     Json items = Json::array();
     for (std::int32_t l = 1; l <= scale.Count(); ++l) {
         const auto item = scale.Item(l);
-        items.push_back({{"Grade", Of(item->Grade)}, {"StartValue", Of(item->StartValue)}});
+        items.push_back({{"Grade", JsonOf(item->Grade)}, {"StartValue", JsonOf(item->StartValue)}});
     }
-    return {{"ScaleName", Of(scale.ScaleName)}, {"Items", std::move(items)}};
+    return {{"ScaleName", JsonOf(scale.ScaleName)}, {"Items", std::move(items)}};
 }
 
 Json RecordAsJson(const clsHTDRDDScaledScore& score, bool bSecrets) {
-    return {{"LearningObjectivePrimary", Of(score.LearningObjectivePrimary)},
-            {"LearningObjectiveSecondary", Of(score.LearningObjectiveSecondary)},
-            {"Precision", score.Precision},
-            {"ScaledScoreName", Of(score.ScaledScoreName)},
-            {"ScaledScoreValues", static_cast<std::int32_t>(score.ScaledScoreValues)},
-            {"ScaledScoreCriteriaPrimary", static_cast<std::int32_t>(score.ScaledScoreCriteriaPrimary)},
-            {"ScaledScoreCriteriaSecondary", static_cast<std::int32_t>(score.ScaledScoreCriteriaSecondary)},
-            {"DB", Of(*score.DB, bSecrets)}};
+    Json::object_t items;
+    EachMember<clsHTDRDDScaledScore>([&](auto row) {
+        if constexpr (row.name == u"DB")
+            items.emplace_back("DB", ConnectionAsJson(*score.DB, bSecrets));
+        else
+            items.emplace_back(ToUtf8(row.name), JsonOf(score.*row.member));
+    });
+    return items;
 }
 
 } // namespace htdrdd::host

@@ -9,10 +9,12 @@
 #include "htdrdd91/component/values/objects.h"
 #include "htdrdd91/foundation/clsDZip.h"
 #include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
+#include "htdrdd91/model/model_members.h"
 #include "htdrdd91/platform/encoding.h"
 #include "htdrdd91/platform/file_system.h"
 #include "htdrdd91/platform/process.h"
 #include "htdrdd91/platform/thread_state.h"
+#include "htdrdd91/scaled_scores/scaled_score_list.h"
 #include "support/session.h"
 
 namespace htdrdd::test {
@@ -393,6 +395,24 @@ TEST_F(Component, TheManifestTellsTheClasses) {
     EXPECT_EQ(DeleteManifest(), S_OK);
     files.folders.erase(ModuleFolder());
     EXPECT_EQ(WriteManifest(), ToHresult(0x800A004C)) << "path not found";
+}
+
+/// The list of a class's members has the properties that hosts see, in their order.
+template <class Class>
+void CheckList(TextView name) {
+    std::vector<TextView> listed;
+    EachMember<Class>([&](auto row) { listed.push_back(row.name); });
+    std::vector<TextView> seen;
+    for (const Member& member : FindClass(name)->members)
+        if (member.kind == DISPATCH_PROPERTYGET) seen.push_back(member.name);
+    EXPECT_EQ(listed, seen) << ToUtf8(name);
+}
+
+TEST(MemberLists, HaveThePropertiesThatHostsSee) {
+    CheckList<clsHTDRDDQuestion>(u"clsHTDRDDQuestion");
+    CheckList<clsHTDRDDSubtest>(u"clsHTDRDDSubtest");
+    CheckList<clsHTDRDDScaledScore>(u"clsHTDRDDScaledScore");
+    CheckList<clsHTDRDDScaledScoreDB>(u"clsHTDRDDScaledScoreDB");
 }
 
 } // namespace

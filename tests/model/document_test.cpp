@@ -66,8 +66,9 @@ TEST_F(Document, AScaledScoreIsCopiedAndCleared) {
     score->Copy()->DB->Name = u"other";
     EXPECT_NE(score->DB->Name, u"other");
     score->Clear();
-    EXPECT_EQ(u"1" + Told(*score).substr(1), fresh) << "but for its primary criterion";
-    EXPECT_EQ(score->ScaledScoreCriteriaPrimary, HTDScaledScoreCriteriaNone);
+    EXPECT_EQ(std::exchange(score->ScaledScoreCriteriaPrimary, HTDScaledScoreCriteriaOverall),
+              HTDScaledScoreCriteriaNone);
+    EXPECT_EQ(Told(*score), fresh) << "but for its primary criterion";
     score->DB = nullptr;
     EXPECT_FALSE(score->Copy());
     score->Clear();

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "htdrdd91/model/clsHTDRDD.h"
+#include "htdrdd91/model/model_members.h"
+#include "htdrdd91/scaled_scores/scaled_score_list.h"
 
 #include <cmath>
 #include <initializer_list>
@@ -30,6 +32,8 @@ public:
         for (std::int32_t left = wild_ ? Below(4) : 1 + Below(3); left > 0; --left) {
             const auto subtest = Make<clsHTDRDDSubtest>();
             rdd_->Subtests->Add(subtest);
+            static_assert(kMemberCount<clsHTDRDDSubtest> ==
+                          5); // the name first, which scaled scores look for
             Fill(subtest->SubtestName, subtest->Description, subtest->Benchmark, *subtest->GradeScale,
                  *subtest->ScaledScore);
         }
@@ -81,8 +85,18 @@ private:
     void Fill(Members&... members) {
         (FillOne(members), ...);
     }
+    template <class Class>
+    void FillAll(Class& object) {
+        EachMember<Class>([&](auto row) { FillOne(object.*row.member); });
+    }
     void FillOne(bool& flag) { flag = Below(2) == 0; }
     void FillOne(double& number) { number = Number(); }
+    void FillOne(std::int16_t& number) { number = Enum<std::int16_t>({-1, 0, 7, 32767, -32768}); }
+    template <class Enumeration>
+    requires std::is_enum_v<Enumeration>
+    void FillOne(Enumeration& value) { value = Enum<Enumeration>({0, 1, 2}); }
+    void FillOne(Ref<clsHTDRDDScaledScoreDB>& db) { FillAll(*db); }
+    void FillOne(Ref<clsHTDRDDQuestionSubtests>& /*memberships*/) {} // the learning objectives tell how many
     void FillOne(std::int32_t& number) { number = OneOf({0, 1, -999, 2147483647, -2147483647 - 1}); }
     template <class AnyText>
     void FillOne(AnyText& text) {
@@ -107,9 +121,8 @@ private:
     /// Every other one is valid, most of the time.
     void FillOne(clsHTDRDDScaledScore& score) {
         clsHTDRDDScaledScoreDB& db = *score.DB;
-        Fill(db.Name, db.Catalog, db.Table, db.MinFieldPrimary, db.MaxFieldPrimary, db.MinFieldSecondary,
-             db.MaxFieldSecondary, db.ScoreField, db.ScoreGrade, db.DSNName, db.DirectoryBased, db.DSNBased,
-             db.User, db.Password, db.Connect, score.ScaledScoreName, score.LearningObjectiveSecondary);
+        FillAll(score);
+        score.ScaledScoreValues = HTDScaledScoreValuesNone;
         if (Below(2) == 0) return;
         const auto overall = rdd_->Subtests->Item(1);
         score.LearningObjectivePrimary = overall ? overall->SubtestName : OddText();
@@ -126,12 +139,7 @@ private:
     void AddQuestion() {
         const auto made = Make<clsHTDRDDQuestion>();
         clsHTDRDDQuestion& q = *made;
-        Fill(q.AnswerValues, q.AnswerCodes, q.CorrectAnswers, q.CorrectCodes, q.CorrectAnswerPoints);
-        Fill(q.QuestionName, q.QuestionText, q.Difficulty, q.Reference, q.Topic, q.Keywords, q.Miscellaneous,
-             q.Notes, q.BlankText, q.MultipleText, q.MissingText, q.BlankValue, q.MultipleValue,
-             q.MissingValue, q.CorrectPoints, q.IncorrectPoints, q.NoResponsePoints, q.SubjectivePoints,
-             q.MinValue, q.MaxValue, q.Benchmark, q.NAValue, q.NumCorrect, q.IncludeGrade, q.IncludeTally,
-             q.ExtraCredit, q.PartialCredit, q.IDField, q.SubjectiveField, q.CorrectAnd);
+        FillAll(q);
         q.Topic = u"line\r\nends\n" + OddText();
         q.DataType = Enum<HTDReportDataType>({0, 1, 1, 1, 2, 2, 32767, -32768}); // 16 bits are read,
         q.MultiplesPermitted = Enum<std::int16_t>({0, 1, 32767});

@@ -3,6 +3,8 @@
 
 #include "htdrdd91/base/number.h"
 #include "htdrdd91/model/clsHTDRDD.h"
+#include "htdrdd91/model/model_members.h"
+#include "htdrdd91/scaled_scores/scaled_score_list.h"
 #include "support/words.h"
 
 #include <string>
@@ -30,31 +32,18 @@ public:
         for (const double score : {-1.0, 59.5, 89.9995, 1e300}) Tell(scale.CalculateGrade(score));
     }
 
-    void Tell(const clsHTDRDDScaledScore& score) {
-        const clsHTDRDDScaledScoreDB& db = *score.DB;
-        Tell(score.ScaledScoreCriteriaPrimary, score.ScaledScoreName, score.ScaledScoreValues,
-             score.Precision, score.LearningObjectivePrimary, score.LearningObjectiveSecondary,
-             score.ScaledScoreCriteriaSecondary);
-        Tell(db.Name, db.Catalog, db.Table, db.MinFieldPrimary, db.MaxFieldPrimary, db.MinFieldSecondary,
-             db.MaxFieldSecondary, db.ScoreField, db.ScoreGrade, db.DBType, db.DirectoryBased, db.DSNBased,
-             db.DSNName, db.Valid, TextView(db.Connect), TextView(db.User), TextView(db.Password));
+    void Tell(const clsHTDRDDScaledScore& score) { TellAll(score); }
+    void Tell(const Ref<clsHTDRDDScaledScoreDB>& db) { TellAll(*db); }
+    void Tell(const clsHTDRDDSubtest& subtest) { TellAll(subtest); }
+    void Tell(const clsHTDRDDQuestion& question) { TellAll(question); }
+    void Tell(const Ref<clsHTDRDDStrings>& list) { Tell(list->AsString()); }
+    void Tell(const Ref<clsHTDRDDQuestionSubtests>& memberships) {
+        for (const std::int32_t l : {1, 2, 3, memberships->Count()})
+            if (memberships->Exists(l)) Tell(l, memberships->Includes(l), memberships->WeightOf(l));
     }
-
-    void Tell(const clsHTDRDDQuestion& q) {
-        for (const TextView text : {TextView(q.QuestionName), TextView(q.QuestionText),
-                                    TextView(q.Difficulty), TextView(q.Reference), TextView(q.Topic),
-                                    TextView(q.Keywords), TextView(q.Miscellaneous), TextView(q.Notes)})
-            Tell(text);
-        Tell(q.MissingText, q.MissingValue, q.BlankText, q.BlankValue, q.MultipleText, q.MultipleValue);
-        Tell(q.DataType, q.NAValue, q.MultiplesPermitted, q.IncludeGrade, q.IncludeTally, q.ExtraCredit,
-             q.PartialCredit, q.IDField, q.SubjectiveField, q.NumCorrect, q.CorrectAnd, q.CorrectPoints,
-             q.IncorrectPoints, q.NoResponsePoints, q.SubjectivePoints, q.MinValue, q.MaxValue, q.Benchmark);
-        for (const auto& list :
-             {q.AnswerValues, q.AnswerCodes, q.CorrectAnswers, q.CorrectCodes, q.CorrectAnswerPoints})
-            Tell(list->AsString());
-        const std::int32_t memberships = q.Subtests->Count();
-        for (const std::int32_t l : {1, 2, 3, memberships})
-            if (q.Subtests->Exists(l)) Tell(l, q.Subtests->Includes(l), q.Subtests->WeightOf(l));
+    template <class T>
+    void Tell(const LazyRef<T>& object) {
+        Tell(*object);
     }
 
     void Tell(const clsHTDRDD& rdd) {
@@ -63,14 +52,17 @@ public:
         Each(*rdd.Versions->Sequences, [&](const auto& sequence) { Tell(sequence.AsString()); });
         for (const auto& [key, item] : rdd.Header->Entries()) Tell(key.ToText(), item.ToText());
         Tell(*rdd.GradeScale, *rdd.SubtestGradeScale, *rdd.ScaledScore, *rdd.SubtestScaledScore);
-        Each(*rdd.Subtests, [&](const auto& subtest) {
-            Tell(subtest.SubtestName, subtest.Description, subtest.Benchmark, *subtest.GradeScale,
-                 *subtest.ScaledScore);
-        });
+        Each(*rdd.Subtests, [&](const auto& subtest) { Tell(subtest); });
         Each(*rdd.Questions, [&](const auto& question) { Tell(question); });
     }
 
     Text told;
+
+private:
+    template <class Class>
+    void TellAll(const Class& object) {
+        EachMember<Class>([&](auto row) { Tell(object.*row.member); });
+    }
 };
 
 template <class Subject>

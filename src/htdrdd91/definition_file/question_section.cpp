@@ -4,6 +4,7 @@
 #include "htdrdd91/definition_file/section_rows.h"
 #include "htdrdd91/foundation/basError.h"
 #include "htdrdd91/model/basPublicAnswers.h"
+#include "htdrdd91/model/model_members.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -177,7 +178,7 @@ constexpr std::array kRows{
     Own<&clsHTDRDDQuestion::Benchmark>(u"Benchmark"),
     Row{u"SubtestNumber", ReadMemberships, AppendMemberships},
 };
-static_assert(kRows.size() == 38);
+static_assert(kRows.size() == kMemberCount<clsHTDRDDQuestion>, "Each member of a question has a row.");
 
 /// What keeps older files working.
 void Repair(const Section& section, Where at = Where::current()) {

@@ -4,6 +4,7 @@
 #include "htdrdd91/definition_file/scale_section.h"
 #include "htdrdd91/definition_file/section_rows.h"
 #include "htdrdd91/foundation/basError.h"
+#include "htdrdd91/model/model_members.h"
 #include "htdrdd91/scaled_scores/scaled_score_members.h"
 
 namespace htdrdd::basTemplate {
@@ -22,6 +23,8 @@ constexpr std::array kRows{
     Own<&clsHTDRDDSubtest::Description>(u"SubtestDescription"),
     Own<&clsHTDRDDSubtest::Benchmark>(u"Benchmark"),
 };
+static_assert(kRows.size() + 2 == kMemberCount<clsHTDRDDSubtest>,
+              "Each member of a learning objective is filed.");
 
 } // namespace
 

@@ -1,7 +1,9 @@
 #include "htdrdd91/foundation/basError.h"
 #include "htdrdd91/merge/merging.h"
 #include "htdrdd91/model/basPublicAnswers.h"
+#include "htdrdd91/model/model_members.h"
 
+#include <array>
 #include <utility>
 
 namespace htdrdd {
@@ -38,31 +40,21 @@ void TakeOver(clsHTDRDDGradeScale& scale, const clsHTDRDDGradeScale& generic) {
     scale.AddDelimitedStrings(generic.AsString(false), generic.AsString(true));
 }
 
+/// What a question keeps when a generic one is laid over it: its name and form, and the answers, which are
+/// assigned afterwards.
+constexpr std::array<TextView, 12> kKept{u"QuestionName",   u"AnswerValues", u"AnswerCodes",
+                                         u"BlankText",      u"BlankValue",   u"MultipleText",
+                                         u"MultipleValue",  u"MinValue",     u"MaxValue",
+                                         u"CorrectAnswers", u"CorrectCodes", u"CorrectAnswerPoints"};
+/// What is taken over last, in this order: what comes before a failure stays.
+constexpr std::array<TextView, 2> kLast{u"Subtests", u"Topic"};
+static_assert(AreMembers<clsHTDRDDQuestion>(kKept) && AreMembers<clsHTDRDDQuestion>(kLast));
+
 void TakeOver(clsHTDRDDQuestion& question, const clsHTDRDDQuestion& generic) {
-    question.Benchmark = generic.Benchmark;
-    question.CorrectAnd = generic.CorrectAnd;
-    question.CorrectPoints = generic.CorrectPoints;
-    question.DataType = generic.DataType;
-    question.Difficulty = generic.Difficulty;
-    question.ExtraCredit = generic.ExtraCredit;
-    question.IDField = generic.IDField;
-    question.IncludeGrade = generic.IncludeGrade;
-    question.IncludeTally = generic.IncludeTally;
-    question.IncorrectPoints = generic.IncorrectPoints;
-    question.Keywords = generic.Keywords;
-    question.Miscellaneous = generic.Miscellaneous;
-    question.MissingText = generic.MissingText;
-    question.MissingValue = generic.MissingValue;
-    question.MultiplesPermitted = generic.MultiplesPermitted;
-    question.NAValue = generic.NAValue;
-    question.NoResponsePoints = generic.NoResponsePoints;
-    question.Notes = generic.Notes;
-    question.NumCorrect = generic.NumCorrect;
-    question.QuestionText = generic.QuestionText;
-    question.Reference = generic.Reference;
-    question.PartialCredit = generic.PartialCredit;
-    question.SubjectiveField = generic.SubjectiveField;
-    question.SubjectivePoints = generic.SubjectivePoints;
+    EachMember<clsHTDRDDQuestion>([&](auto row) {
+        if constexpr (!Holds(kKept, row.name) && !Holds(kLast, row.name))
+            question.*row.member = generic.*row.member;
+    });
     question.Subtests->RemoveAll();
     const Array<bool> includes = generic.Subtests->AsArray(); // a report may make the host replace either
     question.Subtests->AddArray(includes);

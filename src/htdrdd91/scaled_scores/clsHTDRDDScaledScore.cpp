@@ -23,21 +23,4 @@ void clsHTDRDDScaledScore::Clear() noexcept {
     } catch (...) { ReportFailure(u"clsHTDRDDScaledScore.Clear"); }
 }
 
-Ref<clsHTDRDDScaledScore> clsHTDRDDScaledScore::Copy() const noexcept {
-    Ref<clsHTDRDDScaledScore> result;
-    try {
-        auto copy = Make<clsHTDRDDScaledScore>();
-        copy->LearningObjectivePrimary = LearningObjectivePrimary;
-        copy->LearningObjectiveSecondary = LearningObjectiveSecondary;
-        copy->Precision = Precision;
-        copy->ScaledScoreName = ScaledScoreName;
-        copy->ScaledScoreValues = ScaledScoreValues;
-        copy->ScaledScoreCriteriaPrimary = ScaledScoreCriteriaPrimary;
-        copy->ScaledScoreCriteriaSecondary = ScaledScoreCriteriaSecondary;
-        copy->DB->Assign(*DB);
-        result = std::move(copy);
-    } catch (...) { ReportFailure(u"clsHTDRDDScaledScore.Copy"); }
-    return result;
-}
-
 } // namespace htdrdd

@@ -4,7 +4,7 @@
 #include "htdrdd91/foundation/basPublicCipher.h"
 #include "htdrdd91/foundation/basPublicText.h"
 #include "htdrdd91/foundation/member_rows.h"
-#include "htdrdd91/scaled_scores/clsHTDRDDScaledScore.h"
+#include "htdrdd91/scaled_scores/scaled_score_list.h"
 
 #include <array>
 #include <type_traits>
@@ -93,7 +93,9 @@ inline constexpr auto kScaledScoreMembers = [] {
         OfMark(u"ScaledScoreDBUnicode", u"DB.Unicode"),
     };
 }();
-static_assert(kScaledScoreMembers.size() == 24);
+static_assert(kScaledScoreMembers.size() ==
+                  kMemberCount<clsHTDRDDScaledScore> + kMemberCount<clsHTDRDDScaledScoreDB> - 1,
+              "Each member has a row, but for DB and DB->Valid, and the mark has one.");
 
 /// Deciphers Connect, User and Password, in that order, where they aren't empty. A text that isn't enciphered
 /// is reported and becomes empty. Fails with 91 without a DB.

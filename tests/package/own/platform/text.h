@@ -1,0 +1,1 @@
+#error "The package has taken a header of its user."
