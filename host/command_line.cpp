@@ -1,17 +1,18 @@
-#include "host/command_line.h"
-
+/// The command line: subcommands and their options.
+#include "host/console/output.h"
 #include "host/convert/convert.h"
 #include "host/diff/diff.h"
 #include "host/header/header.h"
 #include "host/library/library.h"
 #include "host/merge/merge.h"
-#include "host/output.h"
 #include "host/record/record.h"
 #include "host/scale/scale.h"
 #include "host/score/score.h"
 #include "host/show/show.h"
 #include "host/validate/validate.h"
+#include "htdrdd91/base/failure.h"
 #include "htdrdd91/foundation/version.h"
+#include "htdrdd91/platform/encoding.h"
 
 #include <CLI/CLI.hpp>
 
@@ -254,8 +255,7 @@ void AddScore(CLI::App& app, ScoreOptions& options, Parsed& parsed) {
     Runs(possible, parsed, options, PossibleScore);
 }
 
-} // namespace
-
+/// Does what the arguments ask for. Fails to the caller.
 ExitCode RunCommandLine(int argc, char** argv) {
     CLI::App app("Shows, judges, compares, merges and saves answer keys of tests and surveys", "htdrdd");
     app.set_version_flag("--version", "htdrdd " + std::string(kRelease), "Print the version and exit");
@@ -305,4 +305,19 @@ ExitCode RunCommandLine(int argc, char** argv) {
     return parsed.command();
 }
 
+} // namespace
 } // namespace htdrdd::host
+
+int main(int argc, char** argv) {
+    using namespace htdrdd;
+    auto code = host::ExitCode::Internal;
+    try {
+        code = host::RunCommandLine(argc, argv);
+    } catch (...) {
+        IgnoreFailure([] { host::Complain("internal failure: " + ToUtf8(CurrentFailure().Text())); });
+    }
+    IgnoreFailure([&] {
+        if (!host::Finished()) code = host::ExitCode::Internal;
+    });
+    return static_cast<int>(code);
+}

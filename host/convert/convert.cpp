@@ -1,6 +1,6 @@
 #include "host/convert/convert.h"
 
-#include "host/definitions.h"
+#include "host/files/definitions.h"
 
 namespace htdrdd::host {
 

@@ -1,7 +1,7 @@
 /// htdrdd convert: a definition of any age in the current form.
 #pragma once
 
-#include "host/saving.h"
+#include "host/files/saving.h"
 
 namespace htdrdd::host {
 

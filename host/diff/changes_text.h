@@ -1,7 +1,7 @@
 /// The changes of a key as a person reads them.
 #pragma once
 
-#include "host/terminal.h"
+#include "host/console/terminal.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 /// htdrdd diff: whether two definitions grade alike.
 #pragma once
 
-#include "host/exit_code.h"
+#include "host/console/exit_code.h"
 
 #include <string>
 

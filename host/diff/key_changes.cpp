@@ -1,7 +1,7 @@
 #include "host/diff/key_changes.h"
 
-#include "host/numbers.h"
-#include "host/wording.h"
+#include "host/console/numbers.h"
+#include "host/console/wording.h"
 #include "htdrdd91/foundation/basPublicText.h"
 #include "htdrdd91/platform/encoding.h"
 #include "htdrdd91/scaled_scores/scaled_score_members.h"

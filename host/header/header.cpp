@@ -1,6 +1,6 @@
 #include "host/header/header.h"
 
-#include "host/definitions.h"
+#include "host/files/definitions.h"
 
 namespace htdrdd::host {
 

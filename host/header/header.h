@@ -1,7 +1,7 @@
 /// htdrdd header: the settings of the report header, in a file of their own.
 #pragma once
 
-#include "host/saving.h"
+#include "host/files/saving.h"
 
 namespace htdrdd::host {
 

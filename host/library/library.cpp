@@ -1,10 +1,10 @@
 #include "host/library/library.h"
 
-#include "host/json_text.h"
-#include "host/output.h"
-#include "host/record_json.h"
-#include "host/records.h"
-#include "host/table.h"
+#include "host/console/json.h"
+#include "host/console/output.h"
+#include "host/console/record_json.h"
+#include "host/console/table.h"
+#include "host/files/records.h"
 #include "htdrdd91/foundation/temporary.h"
 #include "htdrdd91/platform/encoding.h"
 

@@ -1,7 +1,7 @@
 /// htdrdd library: named grade scales or scaled scores in one file, which holds a library's string.
 #pragma once
 
-#include "host/saving.h"
+#include "host/files/saving.h"
 
 #include <optional>
 

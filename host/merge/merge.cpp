@@ -1,10 +1,10 @@
 #include "host/merge/merge.h"
 
-#include "host/definitions.h"
+#include "host/console/json.h"
+#include "host/console/output.h"
 #include "host/diff/changes_text.h"
 #include "host/diff/key_changes.h"
-#include "host/json_text.h"
-#include "host/output.h"
+#include "host/files/definitions.h"
 #include "htdrdd91/platform/encoding.h"
 
 namespace htdrdd::host {

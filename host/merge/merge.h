@@ -1,7 +1,7 @@
 /// htdrdd merge: an answer key from elsewhere in a definition.
 #pragma once
 
-#include "host/saving.h"
+#include "host/files/saving.h"
 
 namespace htdrdd::host {
 

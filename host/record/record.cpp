@@ -1,9 +1,9 @@
 #include "host/record/record.h"
 
-#include "host/json_text.h"
-#include "host/output.h"
-#include "host/record_json.h"
-#include "host/table.h"
+#include "host/console/json.h"
+#include "host/console/output.h"
+#include "host/console/record_json.h"
+#include "host/console/table.h"
 #include "htdrdd91/platform/encoding.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 /// htdrdd scale and scaled-score: what both can do, with the kinds of records.h.
 #pragma once
 
-#include "host/records.h"
-#include "host/saving.h"
+#include "host/files/records.h"
+#include "host/files/saving.h"
 
 namespace htdrdd::host {
 

@@ -1,11 +1,11 @@
 #include "host/scale/scale.h"
 
-#include "host/json_text.h"
-#include "host/numbers.h"
-#include "host/output.h"
-#include "host/records.h"
-#include "host/saving.h"
-#include "host/terminal.h"
+#include "host/console/json.h"
+#include "host/console/numbers.h"
+#include "host/console/output.h"
+#include "host/console/terminal.h"
+#include "host/files/records.h"
+#include "host/files/saving.h"
 #include "htdrdd91/platform/encoding.h"
 
 #include <cstdio>

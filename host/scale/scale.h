@@ -1,7 +1,7 @@
 /// htdrdd scale: what only grade scales have, their clip form and the grades of percentages.
 #pragma once
 
-#include "host/exit_code.h"
+#include "host/console/exit_code.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,9 +1,9 @@
 #include "host/score/score.h"
 
-#include "host/definitions.h"
-#include "host/json_text.h"
-#include "host/numbers.h"
-#include "host/output.h"
+#include "host/console/json.h"
+#include "host/console/numbers.h"
+#include "host/console/output.h"
+#include "host/files/definitions.h"
 #include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
 
 #include <limits>

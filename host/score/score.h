@@ -1,7 +1,7 @@
 /// htdrdd score: points and percent.
 #pragma once
 
-#include "host/exit_code.h"
+#include "host/console/exit_code.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "host/show/show.h"
 
-#include "host/definitions.h"
-#include "host/output.h"
+#include "host/console/output.h"
+#include "host/files/definitions.h"
 #include "host/show/show_json.h"
 #include "host/show/show_summary.h"
 

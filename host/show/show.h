@@ -1,7 +1,7 @@
 /// htdrdd show: what definition files hold.
 #pragma once
 
-#include "host/exit_code.h"
+#include "host/console/exit_code.h"
 
 #include <string>
 #include <vector>

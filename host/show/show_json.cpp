@@ -1,7 +1,7 @@
 #include "host/show/show_json.h"
 
-#include "host/json_text.h"
-#include "host/record_json.h"
+#include "host/console/json.h"
+#include "host/console/record_json.h"
 #include "htdrdd91/model/model_members.h"
 #include "htdrdd91/platform/encoding.h"
 

@@ -1,9 +1,9 @@
 #include "host/show/show_objectives.h"
 
-#include "host/numbers.h"
-#include "host/output.h"
-#include "host/table.h"
-#include "host/wording.h"
+#include "host/console/numbers.h"
+#include "host/console/output.h"
+#include "host/console/table.h"
+#include "host/console/wording.h"
 
 #include <algorithm>
 #include <unordered_map>

@@ -1,7 +1,7 @@
 /// The learning objectives of a definition as a person reads them.
 #pragma once
 
-#include "host/terminal.h"
+#include "host/console/terminal.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 
 #include <string>

@@ -1,8 +1,8 @@
 #include "host/show/show_questions.h"
 
-#include "host/numbers.h"
-#include "host/output.h"
-#include "host/table.h"
+#include "host/console/numbers.h"
+#include "host/console/output.h"
+#include "host/console/table.h"
 
 namespace htdrdd::host {
 namespace {

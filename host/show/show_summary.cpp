@@ -1,10 +1,10 @@
 #include "host/show/show_summary.h"
 
-#include "host/output.h"
+#include "host/console/output.h"
+#include "host/console/table.h"
+#include "host/console/wording.h"
 #include "host/show/show_objectives.h"
 #include "host/show/show_questions.h"
-#include "host/table.h"
-#include "host/wording.h"
 
 namespace htdrdd::host {
 namespace {

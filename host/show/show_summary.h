@@ -1,7 +1,7 @@
 /// A definition as a person reads it.
 #pragma once
 
-#include "host/terminal.h"
+#include "host/console/terminal.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 
 #include <string>

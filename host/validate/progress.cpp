@@ -1,7 +1,7 @@
 #include "host/validate/progress.h"
 
-#include "host/output.h"
-#include "host/terminal.h"
+#include "host/console/output.h"
+#include "host/console/terminal.h"
 #include "htdrdd91/base/failure.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 #include "host/validate/validate.h"
 
-#include "host/definitions.h"
-#include "host/output.h"
+#include "host/console/output.h"
+#include "host/files/definitions.h"
 #include "host/validate/progress.h"
 #include "host/validate/validate_json.h"
 #include "host/validate/validate_text.h"

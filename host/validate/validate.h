@@ -1,7 +1,7 @@
 /// htdrdd validate: whether definitions can be trusted.
 #pragma once
 
-#include "host/exit_code.h"
+#include "host/console/exit_code.h"
 
 #include <string>
 #include <vector>

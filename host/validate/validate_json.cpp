@@ -1,7 +1,7 @@
 #include "host/validate/validate_json.h"
 
-#include "host/json_text.h"
-#include "host/output.h"
+#include "host/console/json.h"
+#include "host/console/output.h"
 #include "host/validate/checks.h"
 #include "htdrdd91/platform/encoding.h"
 

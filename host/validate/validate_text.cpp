@@ -1,7 +1,7 @@
 #include "host/validate/validate_text.h"
 
-#include "host/output.h"
-#include "host/table.h"
+#include "host/console/output.h"
+#include "host/console/table.h"
 #include "host/validate/checks.h"
 
 namespace htdrdd::host {

@@ -1,7 +1,7 @@
 /// The checks of a definition as a person reads them.
 #pragma once
 
-#include "host/terminal.h"
+#include "host/console/terminal.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 
 namespace htdrdd::host {

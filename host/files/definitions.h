@@ -1,8 +1,8 @@
 /// Reading the files that a command is given.
 #pragma once
 
-#include "host/complaints.h"
-#include "host/input.h"
+#include "host/files/complaints.h"
+#include "host/files/input.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 
 #include <optional>

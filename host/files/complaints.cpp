@@ -1,6 +1,6 @@
-#include "host/complaints.h"
+#include "host/files/complaints.h"
 
-#include "host/output.h"
+#include "host/console/output.h"
 #include "htdrdd91/platform/encoding.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "host/terminal.h"
+#include "host/console/terminal.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 /// Writing the files that a command is told to make.
 #pragma once
 
-#include "host/complaints.h"
-#include "host/exit_code.h"
+#include "host/console/exit_code.h"
+#include "host/files/complaints.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 
 #include <functional>

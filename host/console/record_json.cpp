@@ -1,6 +1,6 @@
-#include "host/record_json.h"
+#include "host/console/record_json.h"
 
-#include "host/json_text.h"
+#include "host/console/json.h"
 #include "htdrdd91/platform/encoding.h"
 #include "htdrdd91/scaled_scores/scaled_score_list.h"
 

@@ -1,4 +1,4 @@
-#include "host/table.h"
+#include "host/console/table.h"
 
 #include <algorithm>
 

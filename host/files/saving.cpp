@@ -1,7 +1,7 @@
-#include "host/saving.h"
+#include "host/files/saving.h"
 
-#include "host/json_text.h"
-#include "host/output.h"
+#include "host/console/json.h"
+#include "host/console/output.h"
 #include "htdrdd91/platform/encoding.h"
 #include "htdrdd91/platform/file_system.h"
 

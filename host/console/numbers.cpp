@@ -1,4 +1,4 @@
-#include "host/numbers.h"
+#include "host/console/numbers.h"
 
 #include "htdrdd91/base/number.h"
 #include "htdrdd91/foundation/HTDValue.h"

@@ -1,6 +1,6 @@
-#include "host/wording.h"
+#include "host/console/wording.h"
 
-#include "host/output.h"
+#include "host/console/output.h"
 
 namespace htdrdd::host {
 

@@ -1,4 +1,4 @@
-#include "host/output.h"
+#include "host/console/output.h"
 
 #include "htdrdd91/platform/encoding.h"
 

@@ -1,6 +1,6 @@
-#include "host/records.h"
+#include "host/files/records.h"
 
-#include "host/output.h"
+#include "host/console/output.h"
 #include "htdrdd91/grade_scales/grade_scale_rules.h"
 #include "htdrdd91/scaled_scores/scaled_score_rules.h"
 

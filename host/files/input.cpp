@@ -1,4 +1,4 @@
-#include "host/input.h"
+#include "host/files/input.h"
 
 #include "htdrdd91/foundation/basPublicFiles.h"
 #include "htdrdd91/platform/encoding.h"

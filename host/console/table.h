@@ -1,7 +1,7 @@
 /// Text tables that fit the terminal.
 #pragma once
 
-#include "host/terminal.h"
+#include "host/console/terminal.h"
 
 #include <cstddef>
 #include <string>

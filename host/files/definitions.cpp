@@ -1,6 +1,6 @@
-#include "host/definitions.h"
+#include "host/files/definitions.h"
 
-#include "host/output.h"
+#include "host/console/output.h"
 #include "htdrdd91/base/region.h"
 #include "htdrdd91/platform/encoding.h"
 #include "htdrdd91/platform/file_system.h"

@@ -1,8 +1,8 @@
 /// What commands do alike with grade scales and with scaled scores.
 #pragma once
 
-#include "host/definitions.h"
-#include "host/wording.h"
+#include "host/console/wording.h"
+#include "host/files/definitions.h"
 #include "htdrdd91/foundation/findings.h"
 #include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
 #include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
