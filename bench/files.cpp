@@ -1,5 +1,8 @@
 #include "files.h"
 
+#include "host/show/show_json.h"
+#include "htdrdd91/platform/encoding.h"
+
 #include <fstream>
 #include <system_error>
 #include <unistd.h>
@@ -25,7 +28,10 @@ Files::~Files() {
 const fs::path& Files::Of(const Shape& shape, std::string (*make)(const Shape&)) {
     const Key key{shape.questions, shape.objectives, shape.versions, make == &DefinitionJson};
     auto& path = paths_[key];
-    if (path.empty()) WriteFile(path = folder_ / std::to_string(paths_.size()), make(shape));
+    if (path.empty()) {
+        path = folder_ / std::to_string(paths_.size()); // making it may make others
+        WriteFile(path, make(shape));
+    }
     return path;
 }
 
@@ -36,6 +42,11 @@ void WriteFile(const fs::path& path, const std::string& bytes) {
 Ref<clsHTDRDD> ReadNew(TextView path) {
     auto rdd = Make<clsHTDRDD>();
     return rdd->Read(path) ? rdd : nullptr;
+}
+
+std::string DefinitionJson(const Shape& shape) {
+    const auto rdd = ReadNew(FromNativePath(Files::All().Of(shape, &DefinitionText).native()));
+    return host::DefinitionAsJson(*rdd, true);
 }
 
 } // namespace htdrdd::bench

@@ -32,4 +32,7 @@ void WriteFile(const std::filesystem::path& path, const std::string& bytes);
 /// The definition in a file; an empty reference where it isn't read.
 [[nodiscard]] Ref<clsHTDRDD> ReadNew(TextView path);
 
+/// The same content as `htdrdd show --json` prints it.
+[[nodiscard]] std::string DefinitionJson(const Shape& shape);
+
 } // namespace htdrdd::bench

@@ -6,7 +6,6 @@
 #include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 
 #include <benchmark/benchmark.h>
-#include <nlohmann/json.hpp>
 
 #include <fstream>
 #include <string>
@@ -71,21 +70,6 @@ void Exchange(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 
-/// The same rows in a JSON file.
-void ExchangeJson(benchmark::State& state) {
-    nlohmann::json scale{{"Name", "Letters"}, {"Rows", nlohmann::json::array()}};
-    for (std::int64_t row = state.range(0); row-- > 0;)
-        scale["Rows"].push_back(
-            {{"Grade", "Grade " + std::to_string(row)}, {"StartValue", std::to_string(row * 7)}});
-    for (auto _ : state) {
-        WriteFile(ExchangePath(), scale.dump());
-        std::ifstream file(ExchangePath());
-        if (nlohmann::json::parse(file) != scale) return state.SkipWithError("rows are missing");
-    }
-    std::filesystem::remove(ExchangePath());
-    state.SetComplexityN(state.range(0));
-}
-
 void CalculateGrade(benchmark::State& state) {
     const auto scale = Scale(kRows);
     std::int64_t points = 0;
@@ -107,7 +91,6 @@ BENCHMARK(LoadAndSave<clsHTDScaledScoreManager>)
     ->Range(10, 1'000)
     ->Complexity(benchmark::oN);
 BENCHMARK(Exchange)->RangeMultiplier(10)->Range(10, 100'000)->Complexity(benchmark::oN);
-BENCHMARK(ExchangeJson)->RangeMultiplier(10)->Range(10, 100'000)->Complexity(benchmark::oN);
 BENCHMARK(CalculateGrade);
 
 } // namespace

@@ -4,8 +4,6 @@
 #include "htdrdd91/base/number.h"
 #include "htdrdd91/platform/encoding.h"
 
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -47,73 +45,25 @@ Text Words(Dice& dice, int number) {
 
 Text Numbered(TextView name, int number) { return Text(name).append(DecimalText(number)); }
 
-/// Takes the keys and values of a definition in order.
+/// Writes the keys and values of a definition, in order.
 class Sink {
 public:
-    Sink() = default;
-    Sink(const Sink&) = delete;
-    Sink& operator=(const Sink&) = delete;
-    virtual ~Sink() = default;
-    virtual void Section(TextView name) = 0;
-    virtual void String(TextView key, TextView value) = 0;
-    virtual void Number(TextView key, double value) = 0;
-    virtual void Flag(TextView key, bool value) = 0;
-    virtual void List(TextView key, const std::vector<Text>& values) = 0;
-};
-
-class TextSink final : public Sink {
-public:
-    void Section(TextView name) override {
-        if (text_.size() > 1) text_ += u"\r\n";
+    void Section(TextView name) {
+        if (!text_.empty()) text_ += u"\r\n";
         text_.append(u"[").append(name).append(u"]\r\n");
     }
-    void String(TextView key, TextView value) override {
+    void String(TextView key, TextView value) {
         text_.append(key).append(u"=").append(value).append(u"\r\n");
     }
-    void Number(TextView key, double value) override { String(key, InvariantText(value)); }
-    void Flag(TextView key, bool value) override { String(key, value ? u"-1" : u"0"); }
-    void List(TextView key, const std::vector<Text>& values) override {
+    void Number(TextView key, double value) { String(key, InvariantText(value)); }
+    void Flag(TextView key, bool value) { String(key, value ? u"-1" : u"0"); }
+    void List(TextView key, const std::vector<Text>& values) {
         String(key, Join(Array<Text>(values), u"\t"));
     }
-    [[nodiscard]] std::string Bytes() const {
-        std::string bytes;
-        bytes.reserve(text_.size() * 2);
-        for (const char16_t unit : text_) {
-            bytes += static_cast<char>(unit & 0xFF);
-            bytes += static_cast<char>(unit >> 8);
-        }
-        return bytes;
-    }
+    [[nodiscard]] std::string Bytes() const { return std::string(kUtf16Mark) + ToUtf16(text_); }
 
 private:
-    Text text_ = u"\uFEFF";
-};
-
-/// An array of objects for each kind of section.
-class JsonSink final : public Sink {
-public:
-    void Section(TextView name) override {
-        section_ = &document_[ToUtf8(name)].emplace_back(nlohmann::ordered_json::object());
-    }
-    void String(TextView key, TextView value) override { Member(key) = ToUtf8(value); }
-    void Number(TextView key, double value) override {
-        const auto whole = static_cast<std::int64_t>(value);
-        if (static_cast<double>(whole) == value)
-            Member(key) = whole;
-        else
-            Member(key) = value;
-    }
-    void Flag(TextView key, bool value) override { Member(key) = value; }
-    void List(TextView key, const std::vector<Text>& values) override {
-        auto& list = Member(key) = nlohmann::ordered_json::array();
-        for (const Text& value : values) list.push_back(ToUtf8(value));
-    }
-    [[nodiscard]] std::string Bytes() const { return document_.dump(); }
-
-private:
-    nlohmann::ordered_json& Member(TextView key) { return (*section_)[ToUtf8(key)]; }
-    nlohmann::ordered_json document_;
-    nlohmann::ordered_json* section_ = nullptr;
+    Text text_;
 };
 
 void PutScale(Sink& sink, bool overall) {
@@ -236,17 +186,12 @@ void PutDefinition(Sink& sink, const Shape& shape) {
     for (int i = 1; i <= shape.questions; ++i) PutQuestion(sink, dice, shape, i);
 }
 
-template <class Sink>
-std::string Made(const Shape& shape) {
+} // namespace
+
+std::string DefinitionText(const Shape& shape) {
     Sink sink;
     PutDefinition(sink, shape);
     return sink.Bytes();
 }
-
-} // namespace
-
-std::string DefinitionText(const Shape& shape) { return Made<TextSink>(shape); }
-
-std::string DefinitionJson(const Shape& shape) { return Made<JsonSink>(shape); }
 
 } // namespace htdrdd::bench

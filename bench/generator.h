@@ -15,7 +15,5 @@ struct Shape {
 
 /// A definition file in UTF-16 with its byte order mark, about 1,400 bytes a question.
 [[nodiscard]] std::string DefinitionText(const Shape& shape);
-/// The same content in UTF-8, as a program would keep it in JSON.
-[[nodiscard]] std::string DefinitionJson(const Shape& shape);
 
 } // namespace htdrdd::bench

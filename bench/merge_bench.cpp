@@ -3,7 +3,6 @@
 #include "htdrdd91/platform/encoding.h"
 
 #include <benchmark/benchmark.h>
-#include <nlohmann/json.hpp>
 
 #include <string>
 #include <utility>
@@ -62,18 +61,6 @@ void MergeTextKey(benchmark::State& state, std::string (*keyOf)(const clsHTDRDD&
     state.SetComplexityN(state.range(0));
 }
 
-/// The same answers as a JSON array, into nlohmann-json's tree.
-void ParseJsonKey(benchmark::State& state) {
-    const Shape shape{.questions = static_cast<int>(state.range(0))};
-    const auto rdd = ReadNew(FromNativePath(Files::All().Of(shape, &DefinitionText).native()));
-    if (!rdd) return state.SkipWithError("the definition isn't read");
-    auto answers = nlohmann::json::array();
-    EachPiece(FromCodePage(Tabs(*rdd)), u"\t", [&](TextView piece) { answers.push_back(ToUtf8(piece)); });
-    const std::string text = answers.dump();
-    for (auto _ : state) benchmark::DoNotOptimize(nlohmann::json::parse(text));
-    state.SetItemsProcessed(state.range(0) * static_cast<std::int64_t>(state.iterations()));
-}
-
 void Sizes(benchmark::internal::Benchmark* merge) {
     merge->ArgName("questions")->Unit(benchmark::kMicrosecond);
     for (const std::int64_t questions : {50, 1'000, 10'000, 100'000}) merge->Arg(questions);
@@ -84,7 +71,6 @@ BENCHMARK_CAPTURE(MergeTextKey, Tabs, Tabs)->Apply(Sizes);
 BENCHMARK_CAPTURE(MergeTextKey, Lines, Lines)->Apply(Sizes);
 BENCHMARK_CAPTURE(MergeTextKey, FourVersions, Versions)->Apply(Sizes);
 BENCHMARK_CAPTURE(MergeTextKey, OneKind, OneKind)->Apply(Sizes);
-BENCHMARK(ParseJsonKey)->ArgName("questions")->Unit(benchmark::kMicrosecond)->Arg(10'000);
 
 } // namespace
 } // namespace htdrdd::bench

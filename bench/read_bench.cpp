@@ -81,7 +81,7 @@ void ReadJson(benchmark::State& state) {
         stream.read(text.data(), static_cast<std::streamsize>(text.size()));
         std::optional<nlohmann::json> json = nlohmann::json::parse(text);
         state.PauseTiming();
-        if ((*json)["Question"].size() != static_cast<std::size_t>(state.range(0)))
+        if ((*json)["Questions"].size() != static_cast<std::size_t>(state.range(0)))
             return state.SkipWithError("the content isn't the same");
         text = std::string();
         held = HeapInUse() - before;

@@ -7,6 +7,7 @@
 #include "htdrdd91/model/clsHTDRDD.h"
 #include "htdrdd91/platform/thread_state.h"
 #include "support/memory_file_system.h"
+#include "support/outside_object.h"
 
 #include <deque>
 #include <fuzzer/FuzzedDataProvider.h>
@@ -22,21 +23,12 @@ struct QuietDesktop final : Desktop {
 };
 
 /// Calls members, and is the error host and an object whose own members may call others.
-struct Outsider final : IDispatch {
+struct Outsider final : test::OutsideObject {
     FuzzedDataProvider input;
     std::vector<Com<IDispatch>> objects;
     std::deque<OwnVariant> held; ///< values that last until the outermost call ends
-    ULONG references = 0;
 
     Outsider(const std::uint8_t* data, std::size_t size) : input(data, size) {}
-    HRESULT QueryInterface(REFIID riid, void** result) override {
-        *result = riid == IID_IUnknown || riid == IID_IDispatch ? this : nullptr;
-        return *result != nullptr && AddRef() > 0 ? S_OK : E_NOINTERFACE;
-    }
-    ULONG AddRef() override { return ++references; }
-    ULONG Release() override { return --references; }
-    HRESULT GetTypeInfoCount(UINT* /*count*/) override { return E_NOTIMPL; }
-    HRESULT GetTypeInfo(UINT /*n*/, LCID /*lcid*/, ITypeInfo** /*info*/) override { return E_NOTIMPL; }
     HRESULT GetIDsOfNames(REFIID /*i*/, LPOLESTR* /*names*/, UINT /*n*/, LCID /*l*/, DISPID* id) override {
         return *id = 1, Below(9) < 8 ? S_OK : DISP_E_UNKNOWNNAME;
     }

@@ -5,6 +5,7 @@
 #include "htdrdd91/platform/encoding.h"
 #include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 #include "support/memory_file_system.h"
+#include "support/telling.h"
 
 #include <cstdint>
 #include <string>
@@ -15,11 +16,7 @@ namespace {
 constexpr TextView kIn = u"/in";
 constexpr TextView kOut = u"/out";
 
-Text TextOf(const clsHTDRDDGradeScale& scale) {
-    return scale.ScaleName + u"\x1F" + scale.AsString(false, u"\x1F") + u"\x1F" +
-           scale.AsString(true, u"\x1F");
-}
-Text TextOf(const clsHTDRDDScaledScore& score) { return score.ToString(u"\x1F"); }
+using test::Told;
 
 template <class Record>
 void CheckFile() {
@@ -28,7 +25,7 @@ void CheckFile() {
     Demand(read->Export(kOut));
     const auto again = Make<Record>();
     Demand(again->Import(kOut));
-    Demand(TextOf(*again) == TextOf(*read));
+    Demand(Told(*again) == Told(*read));
 }
 
 template <class Library>
@@ -53,7 +50,7 @@ void CheckScoreText(TextView text) {
         if (!score->FromString(text, delimiter)) continue;
         const auto again = Make<clsHTDRDDScaledScore>();
         Demand(again->FromString(score->ToString(delimiter), delimiter));
-        Demand(TextOf(*again) == TextOf(*score));
+        Demand(Told(*again) == Told(*score));
     }
 }
 
@@ -62,7 +59,7 @@ void CheckClip(TextView text) {
     const auto scale = library->ClipToScale(u"", text);
     if (!scale) return;
     const Text clip = library->ScaleToClip(scale);
-    Demand(TextOf(*library->ClipToScale(u"", clip + u"\r\n")) == TextOf(*scale));
+    Demand(Told(*library->ClipToScale(u"", clip + u"\r\n")) == Told(*scale));
 }
 
 } // namespace

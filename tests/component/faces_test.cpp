@@ -15,6 +15,7 @@
 #include "htdrdd91/platform/process.h"
 #include "htdrdd91/platform/thread_state.h"
 #include "htdrdd91/scaled_scores/scaled_score_list.h"
+#include "support/outside_object.h"
 #include "support/session.h"
 
 namespace htdrdd::test {
@@ -28,7 +29,7 @@ VARIANT By(VARTYPE kind, void* variable) {
 }
 
 /// An outside host object. It keeps the kinds of what it gets, and fails with what it is told to.
-class Outsider final : public IDispatch {
+class Outsider final : public OutsideObject {
 public:
     HRESULT result = S_OK;
     EXCEPINFO failure{};
@@ -40,18 +41,12 @@ public:
 
     HRESULT QueryInterface(REFIID riid, void** ppvObject) override {
         if (whenAsked) whenAsked();
-        *ppvObject = saysYes || riid == IID_IUnknown || riid == IID_IDispatch ? this : nullptr;
-        if (*ppvObject == nullptr) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
+        return OutsideObject::QueryInterface(saysYes ? IID_IUnknown : riid, ppvObject);
     }
-    ULONG AddRef() override { return ++references; }
     ULONG Release() override {
         if (whenReleased) whenReleased();
-        return --references;
+        return OutsideObject::Release();
     }
-    HRESULT GetTypeInfoCount(UINT* /*pctinfo*/) override { return E_NOTIMPL; }
-    HRESULT GetTypeInfo(UINT /*i*/, LCID /*lcid*/, ITypeInfo** /*ppTInfo*/) override { return E_NOTIMPL; }
     HRESULT GetIDsOfNames(REFIID /*riid*/, LPOLESTR* names, UINT /*n*/, LCID /*lcid*/, DISPID* ids) override {
         ids[0] = TextView(names[0]) == u"Silent" ? 1 : 2;
         return TextView(names[0]) == u"Nothing" ? DISP_E_UNKNOWNNAME : S_OK;
@@ -70,7 +65,6 @@ public:
             told->bstrDescription = NewBstr(View(failure.bstrDescription));
         return result;
     }
-    ULONG references = 0;
 };
 
 class Component : public Session {
@@ -166,8 +160,6 @@ TEST_F(Component, CallsThatDontFitAreRefused) {
     ValueOut(nine, 9);
     VARIANT large{};
     ValueOut(large, 1e10);
-    EXPECT_EQ(Call(*rdd, u"Clear", DISPATCH_METHOD, {nine}), DISP_E_BADPARAMCOUNT);
-    EXPECT_EQ(Call(*rdd, u"Read", DISPATCH_METHOD, {}), DISP_E_PARAMNOTOPTIONAL);
     EXPECT_EQ(Call(*rdd, u"Version", DISPATCH_PROPERTYPUT, {nine}), DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(Call(*rdd, u"Questions", DISPATCH_PROPERTYPUT, {nine}), DISP_E_TYPEMISMATCH);
     EXPECT_EQ(Call(*sequence, u"Item", DISPATCH_PROPERTYPUT, {large, nine}), DISP_E_OVERFLOW);
@@ -184,13 +176,6 @@ TEST_F(Component, CallsThatDontFitAreRefused) {
     VariantClear(&file);
     EXPECT_EQ(Heard(),
               (Said{kSubscript + "clsHTDRDDQuestions.Remove", kTypeMismatch + "clsHTDRDDStrings.Add"}));
-
-    EXCEPINFO told{};
-    EXPECT_EQ(Call(*sequence, u"Remove", DISPATCH_METHOD, {nine}, nullptr, &told), DISP_E_EXCEPTION);
-    EXPECT_EQ(told.scode, ToHresult(0x800A0009));
-    EXPECT_EQ(View(told.bstrSource), u"HTDRdd91");
-    EXPECT_EQ(View(told.bstrDescription), u"Subscript out of range");
-    EXPECT_EQ(FailureOutside(DISP_E_EXCEPTION, told).Number(), 9);
 
     auto& slots = static_cast<_clsHTDRDDSequence&>(FaceOf(*sequence));
     EXPECT_EQ(slots.Remove(9), ToHresult(0x800A0009));

@@ -86,11 +86,8 @@ private:
                 invalid.push_back(subtest);
         for (const auto& subtest : invalid) subtest->ScaledScore = Make<clsHTDRDDScaledScore>();
         Each(*rdd.Subtests, [this](auto& subtest) {
-            clsHTDRDDScaledScore& score = *subtest.ScaledScore;
-            clsHTDRDDScaledScoreDB& db = *score.DB; // what is filed in cipher keeps its line breaks
-            Cut(score.ScaledScoreName, score.LearningObjectivePrimary, score.LearningObjectiveSecondary,
-                db.Name, db.Catalog, db.Table, db.MinFieldPrimary, db.MaxFieldPrimary, db.MinFieldSecondary,
-                db.MaxFieldSecondary, db.ScoreField, db.ScoreGrade, db.DSNName);
+            CutTexts(*subtest.ScaledScore);
+            CutTexts(*subtest.ScaledScore->DB); // what is filed in cipher keeps its line breaks
         });
         rdd.ScaledScore->Clear();
         rdd.SubtestScaledScore->Clear();
@@ -192,6 +189,12 @@ private:
         if (end == Text::npos) return;
         seen = true;
         text.erase(end > 0 && text[end - 1] == u'\r' ? end - 1 : end);
+    }
+    template <class Class>
+    void CutTexts(Class& object) {
+        EachMember<Class>([&](auto row) {
+            if constexpr (std::is_same_v<decltype(row.member), Text Class::*const>) Cut(object.*row.member);
+        });
     }
     template <class... More>
     void Cut(Text& text, More&... more) {

@@ -90,19 +90,6 @@ TEST_F(DefinitionWriter, FilesAGenericKeyByThePositionsOfAnswers) {
     EXPECT_TRUE(rdd->Save(u"/exam.rdd") && rdd->Read(u"/exam.rdd"));
 }
 
-TEST_F(DefinitionWriter, WritesNumbersByTheRegionOnlyInBounds) {
-    ThisThread().region.decimalMark = u',';
-    ThisThread().region.groupMark = u'.';
-    ASSERT_TRUE(
-        Read(u"[Report]\nNumQuestions=1\n\n[Scale]\nNumValues=2\nGrades=A,\tB\nStartValues=92,5\t0\n\n"
-             u"[Question]\nDataType=1\nMinValue=1.5\nCorrectPoints=1.5\n"));
-    ASSERT_TRUE(rdd->Save(u"/exam.rdd", false) && rdd->Read(u"/exam.rdd"));
-    EXPECT_EQ(rdd->GradeScale->AsString(true, u"|"), u"92.5|0");
-    EXPECT_EQ(rdd->GradeScale->AsString(false, u"|"), u"A,|B");
-    EXPECT_EQ(rdd->Questions->Item(1)->CorrectPoints, 1.5);
-    EXPECT_EQ(rdd->Questions->Item(1)->MinValue, 1) << "this is meant: a comma ends the number";
-}
-
 TEST_F(DefinitionWriter, KeepsAnOldFileOfSingleBytes) {
     const std::string old = ToUtf8(kSmall);
     ASSERT_TRUE(ReadBytes(old));

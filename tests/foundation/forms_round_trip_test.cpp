@@ -78,23 +78,6 @@ TEST_F(FormsRoundTrip, OfGradeScaleLibraries) {
     });
 }
 
-/// The name isn't there, start values become plain numbers. A tab or a line end in a grade, and a scale
-/// without rows are lost.
-TEST_F(FormsRoundTrip, OfClips) {
-    Each([](const clsHTDRDDSubtest& subtest, std::uint64_t seed) {
-        const clsHTDRDDGradeScale& scale = *subtest.GradeScale;
-        const auto library = Make<clsHTDGradeScaleManager>();
-        const Text clip = library->ScaleToClip(subtest.GradeScale);
-        const auto back = library->ClipToScale(scale.ScaleName, clip + (seed % 2 == 0 ? u"\r\n" : u""));
-        if (scale.Count() == 0 && seed % 2 != 0) {
-            EXPECT_FALSE(back);
-            return;
-        }
-        EXPECT_EQ(Told(*back), Told(*Expected(scale, InvariantText)));
-        EXPECT_EQ(library->ScaleToClip(back), clip);
-    });
-}
-
 /// Start values become plain numbers of the region.
 TEST_F(FormsRoundTrip, OfGradeScaleExchangeFiles) {
     Each([this](const clsHTDRDDSubtest& subtest, std::uint64_t /*seed*/) {

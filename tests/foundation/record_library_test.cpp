@@ -4,6 +4,7 @@
 #include "htdrdd91/scaled_scores/clsHTDScaledScoreManager.h"
 #include "support/cases.h"
 #include "support/session.h"
+#include "support/telling.h"
 
 namespace htdrdd::test {
 namespace {
@@ -25,10 +26,8 @@ protected:
         score->DB->Valid = false;
         return score;
     }
-    static Text Told(const clsHTDRDDGradeScale& scale) {
-        return scale.ScaleName + u" " + scale.AsString(true, u"|") + u"=" + scale.AsString(false, u"|");
-    }
-    static Text Told(const clsHTDRDDScaledScore& score) {
+    static Text Shown(const clsHTDRDDGradeScale& scale) { return RowsOf(scale); }
+    static Text Shown(const clsHTDRDDScaledScore& score) {
         return score.ScaledScoreName + (score.DB->Valid ? u" valid " : u" ") +
                DecimalText(score.ScaledScoreCriteriaPrimary);
     }
@@ -53,7 +52,7 @@ protected:
         if (operation == u"reset") library.Reset();
         if (operation == u"item") {
             const auto record = library.Item(variant);
-            return record ? Told(*record) : u"none";
+            return record ? Shown(*record) : u"none";
         }
         if (operation != u"keys") return u"";
         Text keys = DecimalText(library.Count());

@@ -2,18 +2,13 @@
 #include "htdrdd91/platform/encoding.h"
 #include "support/cases.h"
 #include "support/session.h"
+#include "support/telling.h"
 
 namespace htdrdd::test {
 namespace {
 
 class GradeScaleForms : public Session {
 protected:
-    static Text Told(const clsHTDRDDGradeScale& scale) {
-        Text rows;
-        for (std::int32_t l = 1; l <= scale.Count(); ++l)
-            rows += u" " + scale.Item(l)->StartValue + u"=" + scale.Item(l)->Grade;
-        return scale.ScaleName + u":" + rows;
-    }
     /// What an import into a scale gives and leaves, and what is said.
     Text Imported(std::string bytes) {
         files.files[u"/scale.xml"] = std::move(bytes);
@@ -21,7 +16,7 @@ protected:
         scale->ScaleName = u"old";
         scale->AddDelimitedStrings(u"O", u"0");
         Text result = scale->Import(u"/scale.xml") ? u"true " : u"false ";
-        result += Told(*scale);
+        result += RowsOf(*scale);
         for (const std::string& line : Heard()) result += u" [" + FromUtf8(line) + u"]";
         return result;
     }
@@ -112,7 +107,7 @@ TEST_F(GradeScaleForms, SpreadsheetsPasteRows) {
     CheckWords("grade_scale_clips", [this](const Fields& row) {
         Text told = InBothRegions([&] {
             const auto scale = manager->ClipToScale(u"n", row[0]);
-            return scale ? Told(*scale) + u" " + manager->ScaleToClip(scale) : u"none";
+            return scale ? RowsOf(*scale) + u" " + manager->ScaleToClip(scale) : u"none";
         });
         for (const std::string& line : Heard()) told += u" [" + FromUtf8(line) + u"]";
         return told;

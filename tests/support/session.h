@@ -72,14 +72,7 @@ public:
 };
 
 /// UTF-16 little-endian with its byte order mark.
-inline std::string Unicode(TextView text) {
-    std::string bytes = "\xFF\xFE";
-    for (const char16_t unit : text) {
-        bytes += static_cast<char>(unit & 0xFF);
-        bytes += static_cast<char>(unit >> 8);
-    }
-    return bytes;
-}
+inline std::string Unicode(TextView text) { return std::string(kUtf16Mark) + ToUtf16(text); }
 
 /// A thread's surroundings for one test; afterwards they are as before. Whatever a test doesn't look at in
 /// `host->said` and `desktop.said` must be silence: that is checked at the end.

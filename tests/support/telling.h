@@ -65,6 +65,14 @@ private:
     }
 };
 
+/// "Name: 90=A 0=F"
+inline Text RowsOf(const clsHTDRDDGradeScale& scale) {
+    Text rows = scale.ScaleName + u":";
+    Each(scale,
+         [&](const auto& row) { rows.append(u" ").append(row.StartValue).append(u"=").append(row.Grade); });
+    return rows;
+}
+
 template <class Subject>
 Text Told(const Subject& subject) {
     Telling telling;
