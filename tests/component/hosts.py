@@ -29,7 +29,7 @@ def listed():
             elif match := re.match(r"interface \w+ (\S+):", line):
                 members = []
                 yield name, Class(identifier, match[1], bool(is_creatable), members)
-            elif match := re.match(r" +(\d+) +(-?\d+)  (\w+) +(\w+)\((.*?)\)(?: -> (\S+))?$", line):
+            elif match := re.match(r" +(\d+) +(-?\d+)  (\w+) +(\w+)\((.*?)\)(?: -> (\S+))?(?: !)?$", line):
                 parameters = re.findall(r"\[?([\w()]+\*?&?) (\w+)", match[5])
                 members.append(Member(int(match[1]), int(match[2]), match[3], match[4], parameters, match[6]))
 

@@ -1,5 +1,4 @@
 #include "htdrdd91/base/number.h"
-#include "htdrdd91/foundation/basPublicCipher.h"
 #include "htdrdd91/platform/encoding.h"
 #include "support/cases.h"
 #include "support/session.h"
@@ -90,15 +89,6 @@ TEST_F(DefinitionReader, FollowsTheLinesFromSectionToSection) {
     EXPECT_EQ(rdd->Subtests->Item(1)->GradeScale->Count(), 0) << "no number of rows was announced";
 }
 
-TEST_F(DefinitionReader, ReadsNumbersByOneRule) {
-    Check({u"2.5 -> 2", u" 3.5 -> 4", u"1,5 -> 1", u" 1 2  -> 12", u"1e2x -> 100", u"&H1F -> 31", u"abc -> 0",
-           u" -> 0"},
-          [&](const Fields& row) {
-              EXPECT_TRUE(Report(Text(u"NumSequences=9E9\nnumpages=").append(row[0])));
-              return DecimalText(rdd->NumPages);
-          });
-}
-
 // Beyond what round trips show.
 TEST_F(DefinitionReader, RepairsQuestions) {
     const auto q =
@@ -130,20 +120,6 @@ TEST_F(DefinitionReader, ReadsMemberships) {
                           InvariantText(memberships->WeightOf(l)) + u" ";
               return told;
           });
-}
-
-TEST_F(DefinitionReader, DeciphersConnections) {
-    const auto read = [&](TextView lines) {
-        Read(
-            Text(u"[Report]\nNumSubtests=1\n\n[Subtest]\nScaledScoreDBUnicode=").append(lines).append(u"\n"));
-        return Text(TextView(rdd->Subtests->Item(1)->ScaledScore->DB->User));
-    };
-    const Text cipher = basPublic::Encrypt(u"m\u00FCller\u263A");
-    EXPECT_EQ(read(u"0\nScaledScoreDBUser=" + cipher), basPublic::UnicodeToHex(u"m\u00FCller\u263A"));
-    EXPECT_EQ(read(u"-1\nScaledScoreDBUser="), u"");
-    EXPECT_EQ(Heard(), Said());
-    EXPECT_EQ(read(u"-1\nScaledScoreDBUser=plain"), u""); // reported, and the read goes on
-    EXPECT_EQ(Heard(), Said{kArgument + "basPublic.Decrypt"});
 }
 
 TEST_F(DefinitionReader, FailsWhereAPartIsMissing) {

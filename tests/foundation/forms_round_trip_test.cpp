@@ -57,27 +57,6 @@ protected:
     }
 };
 
-/// Start values become plain numbers. A tab in a name or a grade, a vertical tab and a scale without a name
-/// and without rows are lost.
-TEST_F(FormsRoundTrip, OfGradeScaleLibraries) {
-    Each([](const clsHTDRDDSubtest& subtest, std::uint64_t /*seed*/) {
-        clsHTDRDDGradeScale& scale = *subtest.GradeScale;
-        scale.ScaleName = Replaced(scale.ScaleName, u"\t", u"\u2003");
-        const auto library = Make<clsHTDGradeScaleManager>();
-        Text key = u"any";
-        if (scale.Count() == 0) scale.ScaleName += u".";
-        library->Add(key, subtest.GradeScale);
-        library->Add(key = u"other", subtest.GradeScale);
-        const Text saved = library->SaveToString();
-        EXPECT_TRUE(library->LoadFromString(saved));
-        EXPECT_EQ(library->Count(), 1) << "two of the same name";
-        const auto item = library->Item(Trimmed(scale.ScaleName));
-        ASSERT_TRUE(item);
-        EXPECT_EQ(Told(*item), Told(*Expected(scale, InvariantText)));
-        EXPECT_EQ(library->SaveToString() + u"\v" + library->SaveToString(), saved);
-    });
-}
-
 /// Start values become plain numbers of the region.
 TEST_F(FormsRoundTrip, OfGradeScaleExchangeFiles) {
     Each([this](const clsHTDRDDSubtest& subtest, std::uint64_t /*seed*/) {

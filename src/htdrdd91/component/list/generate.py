@@ -1,8 +1,8 @@
 """Writes what is made of the interface list, to OUT or else to standard output:
 
-    generate.py header LIST [OUT]             the C++ header of the interfaces
-    generate.py faces LIST [OUT] --headers F  the C++ of their members, over the class headers in a folder
-    generate.py listing LIST [OUT]            every class, member, slot and identifier, to be read and compared
+    generate.py header LIST [OUT]   the C++ header of the interfaces
+    generate.py faces LIST [OUT]    the C++ of their members
+    generate.py listing LIST [OUT]  every class, member, slot and identifier, to be read and compared
 """
 
 import argparse
@@ -82,27 +82,40 @@ def header(library):
     yield "} // namespace htdrdd\n\n// NOLINTEND(bugprone-reserved-identifier)"
 
 
-class ClassHeader:
-    """The header of a class, as far as it has to agree with the list."""
+class Headers:
+    """The classes of the C++ headers in a folder, as far as they have to agree with the list."""
 
-    def __init__(self, folder, name):
-        self.name, found = name, list(pathlib.Path(folder).rglob(f"{name}.h"))
-        text = re.sub(r"//[^\n]*", "", found[0].read_text(encoding="utf-8")) if found else ""
-        match = re.search(rf"\bclass {name}\b[^;{{]*{{(.*)^}};", text, re.DOTALL | re.MULTILINE)
-        self.body = match.group(1) if match else ""
+    CLASS = re.compile(r"^class (\w+)([^;{]*){(.*?)^};", re.DOTALL | re.MULTILINE)
 
-    def default(self, member, parameter):
-        """The default argument as it stands in the header."""
-        for declared in re.finditer(rf"\b{member.name}\(", self.body):
-            depth, end = 1, declared.end()
+    def __init__(self, folder):
+        self.classes = {}
+        for path in sorted(pathlib.Path(folder).rglob("*.h")):
+            text = re.sub(r"//[^\n]*", "", path.read_text(encoding="utf-8"))
+            self.classes.update({name: (bases, body) for name, bases, body in self.CLASS.findall(text)})
+
+    def declared(self, name, member):
+        """Parameters of a member function, and whether it reports its failures; None for a data member."""
+        bases, body = self.classes.get(name, ("", ""))
+        for match in re.finditer(rf"\b{member.name}\(", body):
+            depth, end = 1, match.end()
             while depth:
-                depth += {"(": 1, ")": -1}.get(self.body[end], 0)
+                depth += {"(": 1, ")": -1}.get(body[end], 0)
                 end += 1
-            for one in re.split(r",(?![^<(]*[>)])", self.body[declared.end():end - 1]):
-                match = re.search(rf"\b{parameter.name}\s*=\s*(.*)$", one, re.DOTALL)
-                if match:
-                    return match.group(1).strip()
-        raise ListError(member.line, f"{parameter.name} of {member.name} has no default in {self.name}.h")
+            parameters = [one.strip() for one in re.split(r",(?![^<(]*[>)])", body[match.end():end - 1]) if one.strip()]
+            parameters = [one for one in parameters if not one.startswith("Where at")]
+            if len(parameters) == len(member.parameters):
+                return parameters, "noexcept" in re.match(r"[^;{]*", body[end:]).group()
+        found = (self.declared(base, member) for base in re.findall(r"\w+", bases) if base in self.classes and base != name)
+        return next(filter(None, found), None)
+
+    def default(self, name, member, parameter):
+        """The default argument as it stands in the header."""
+        parameters, _ = self.declared(name, member) or ([], True)
+        for one in parameters:
+            match = re.search(rf"\b{parameter.name}\s*=\s*(.*)$", one, re.DOTALL)
+            if match:
+                return match.group(1).strip()
+        raise ListError(member.line, f"{parameter.name} of {member.name} has no default in {name}.h")
 
 
 def checks(library, headers):
@@ -112,12 +125,11 @@ def checks(library, headers):
             yield (f'static_assert(static_cast<std::int32_t>({name}) == {value}, '
                    f'"{name} is {value} in the interface list");')
     for listed in library.classes:
-        declared = ClassHeader(headers, listed.name)
         for member in listed.interface.members:
             for parameter in member.parameters:
                 if parameter.default is None:
                     continue
-                default = declared.default(member, parameter)
+                default = headers.default(listed.name, member, parameter)
                 told = f"{parameter.name} of {listed.name}::{member.name}"
                 if parameter.is_reference:
                     if default != "nullptr":
@@ -207,7 +219,8 @@ def listed_parameter(parameter):
     return f"[{told}]" if parameter.is_optional else told
 
 
-def listing(library):
+def listing(library, headers):
+    yield "Members with ! let failures pass to their caller; the others report them to the host object.\n"
     yield f"{library.name} {library.identifier} version {library.version}"
     for enumeration in library.enumerations:
         yield f"\nenumeration {enumeration.name} {enumeration.identifier}"
@@ -221,7 +234,9 @@ def listing(library):
         for member in listed.interface.members:
             parameters = ", ".join(map(listed_parameter, member.parameters))
             result = f" -> {listed_value(member.result)}" if member.result else ""
-            yield f"  {member.slot:3} {member.id:3}  {member.direction or 'method':10} {member.name}({parameters}){result}"
+            _, reports = headers.declared(listed.name, member) or ([], True)
+            yield (f"  {member.slot:3} {member.id:3}  {member.direction or 'method':10} {member.name}({parameters}){result}"
+                   + " !" * (not reports))
 
 
 def main():
@@ -229,12 +244,13 @@ def main():
     arguments.add_argument("what", choices=["header", "faces", "listing"])
     arguments.add_argument("list")
     arguments.add_argument("out", nargs="?")
-    arguments.add_argument("--headers")
+    arguments.add_argument("--headers", default=pathlib.Path(__file__).parents[2], help="the folder of the layers")
     given = arguments.parse_args()
     try:
         library = interface_list.read(given.list)
-        write = {"header": header, "listing": listing, "faces": lambda library: faces(library, given.headers)}
-        text = "\n".join(write[given.what](library)) + "\n"
+        classes = Headers(given.headers)
+        lines = header(library) if given.what == "header" else {"faces": faces, "listing": listing}[given.what](library, classes)
+        text = "\n".join(lines) + "\n"
     except ListError as error:
         sys.exit(f"{os.path.basename(given.list)}:{error.line}: {error.reason}")
     if given.out:
