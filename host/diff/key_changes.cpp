@@ -3,6 +3,7 @@
 #include "host/console/numbers.h"
 #include "host/console/wording.h"
 #include "htdrdd91/foundation/basPublicText.h"
+#include "htdrdd91/model/model_members.h"
 #include "htdrdd91/platform/encoding.h"
 #include "htdrdd91/scaled_scores/scaled_score_members.h"
 
@@ -38,6 +39,8 @@ Json PointsOf(const clsHTDRDDQuestion& question, HTDVersionType versions) {
 }
 
 constexpr std::size_t kWorth = 5; ///< number of members that tell the answer and what it is worth
+
+static_assert(kMemberCount<clsHTDRDDQuestion> == 38, "A new member that changes grades is compared, too.");
 
 /// Null for a question that doesn't count.
 Json Of(const clsHTDRDDQuestion& q, const clsHTDRDD& definition) {

@@ -385,12 +385,12 @@ TEST_F(Component, TheManifestTellsTheClasses) {
 /// The list of a class's members has the properties that hosts see, in their order.
 template <class Class>
 void CheckList(TextView name) {
-    std::vector<TextView> listed;
-    EachMember<Class>([&](auto row) { listed.push_back(row.name); });
-    std::vector<TextView> seen;
+    std::string listed;
+    EachMember<Class>([&](auto row) { listed += ToUtf8(row.name) + '\n'; });
+    std::string seen;
     for (const Member& member : FindClass(name)->members)
-        if (member.kind == DISPATCH_PROPERTYGET) seen.push_back(member.name);
-    EXPECT_EQ(listed, seen) << ToUtf8(name);
+        if (member.kind == DISPATCH_PROPERTYGET) seen += ToUtf8(member.name) + '\n';
+    EXPECT_EQ(listed, seen) << "the interface list has other properties of " << ToUtf8(name);
 }
 
 TEST(MemberLists, HaveThePropertiesThatHostsSee) {
