@@ -1,4 +1,4 @@
-/// What calls from outside cost.
+/// The cost of calls from outside.
 #include "htdrdd91/component/HTDRdd91.h"
 #include "htdrdd91/component/values/values.h"
 #include "htdrdd91/model/clsHTDRDD.h"
@@ -20,7 +20,7 @@ Ref<clsHTDRDDQuestions> Questions() {
     return questions;
 }
 
-/// Reads the name of each question, as a copy of its own; `read` gets the list and the position.
+/// Reads a copy of each question's name; `read` gets the list and the position.
 template <class Read>
 void Walk(benchmark::State& state, const Read& read) {
     const auto questions = Questions();
@@ -51,7 +51,7 @@ void CallSlots(benchmark::State& state) {
     });
 }
 
-/// With the names looked up for each call, as hosts in scripting languages do.
+/// Looks the name up for each call, as scripting languages do.
 void Get(IDispatch& object, Text member, DISPPARAMS parameters, VARIANT& result) {
     LPOLESTR names = member.data();
     DISPID id = DISPID_UNKNOWN;

@@ -29,7 +29,7 @@ const fs::path& Files::Of(const Shape& shape, std::string (*make)(const Shape&))
     const Key key{shape.questions, shape.objectives, shape.versions, make == &DefinitionJson};
     auto& path = paths_[key];
     if (path.empty()) {
-        path = folder_ / std::to_string(paths_.size()); // making it may make others
+        path = folder_ / std::to_string(paths_.size()); // make() may create other files
         WriteFile(path, make(shape));
     }
     return path;

@@ -11,7 +11,7 @@
 
 namespace htdrdd::bench {
 
-/// Made when they are first asked for and deleted at the end.
+/// Created on the first request and deleted at the end.
 class Files {
 public:
     static Files& All();
@@ -29,10 +29,10 @@ private:
 
 void WriteFile(const std::filesystem::path& path, const std::string& bytes);
 
-/// The definition in a file; an empty reference where it isn't read.
+/// The definition in a file; null if it can't be read.
 [[nodiscard]] Ref<clsHTDRDD> ReadNew(TextView path);
 
-/// The same content as `htdrdd show --json` prints it.
+/// The same content in the form of `htdrdd show --json`.
 [[nodiscard]] std::string DefinitionJson(const Shape& shape);
 
 } // namespace htdrdd::bench

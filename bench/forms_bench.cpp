@@ -27,7 +27,7 @@ Ref<clsHTDRDDGradeScale> Scale(std::int64_t rows) {
     return scale;
 }
 
-/// Scales of 13 rows, or scaled scores with a connection, under names of their own.
+/// Adds a scale of 13 rows, or a scaled score with a connection, under its own name.
 void Fill(clsHTDGradeScaleManager& library, const Text& name) {
     const auto scale = Scale(kRows);
     scale->ScaleName = name;

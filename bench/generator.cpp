@@ -13,7 +13,7 @@
 namespace htdrdd::bench {
 namespace {
 
-/// Numbers that only look random.
+/// Pseudo-random numbers.
 class Dice {
 public:
     explicit Dice(std::uint64_t seed) : state_(seed * 2 + 1) {}
@@ -78,7 +78,7 @@ void PutScale(Sink& sink, bool overall) {
     sink.List(u"StartValues", values);
 }
 
-/// Some questions are true or false, some demand several answers, some are judged by a person.
+/// Some questions are true or false, some require several answers, and some are graded by a person.
 void PutQuestion(Sink& sink, Dice& dice, const Shape& shape, int position) {
     const int kind = dice.Below(20);
     const bool subjective = kind == 0;

@@ -1,4 +1,4 @@
-/// Definitions of any size for the benchmarks: the same parameters give the same bytes.
+/// Definitions of any size for the benchmarks; the same parameters produce the same bytes.
 #pragma once
 
 #include "htdrdd91/base/text.h"

@@ -14,7 +14,7 @@ Text Numbers(std::int64_t count) {
     return text;
 }
 
-/// Makes lists of one class out of a delimited text, again and again.
+/// Creates lists of one class from a delimited text.
 template <class List>
 void AddDelimited(benchmark::State& state) {
     const Text text = Numbers(state.range(0));

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kVersions = 4;
 
-/// A key for all questions that take one: the numbers of response choices.
+/// A key for all graded and subjective questions, made of the numbers of response choices.
 std::string KeyLine(const clsHTDRDD& rdd, std::string_view separator) {
     std::string line;
     for (std::int32_t l = 1; l <= rdd.Questions->Count(); ++l) {
@@ -28,7 +28,7 @@ std::string Tabs(const clsHTDRDD& rdd) { return KeyLine(rdd, "\t"); }
 std::string Lines(const clsHTDRDD& rdd) { return KeyLine(rdd, "|The text of a question\r\n"); }
 std::string Versions(const clsHTDRDD& rdd) {
     const std::string fields = Tabs(rdd);
-    for (std::int32_t l = 1; l <= rdd.Questions->Count(); ++l) { // versions demand the same points for all
+    for (std::int32_t l = 1; l <= rdd.Questions->Count(); ++l) { // versions require equal points
         rdd.Questions->Item(l)->CorrectPoints = 1;
         rdd.Questions->Item(l)->IncorrectPoints = 0;
     }
@@ -37,7 +37,7 @@ std::string Versions(const clsHTDRDD& rdd) {
         key.append(1, static_cast<char>('A' + version)).append("\t").append(fields).append("\r\n");
     return key;
 }
-/// As one key, where no question is subjective.
+/// A single key for a definition without subjective questions.
 std::string OneKind(const clsHTDRDD& rdd) {
     for (std::int32_t l = 1; l <= rdd.Questions->Count(); ++l) {
         const auto question = rdd.Questions->Item(l);

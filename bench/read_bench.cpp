@@ -1,4 +1,4 @@
-/// Reading definition files, and letting go of what was read.
+/// Reading definition files, and releasing the definitions.
 #include "files.h"
 #include "htdrdd91/platform/encoding.h"
 
@@ -35,7 +35,7 @@ void Report(benchmark::State& state, const fs::path& path, double held) {
     if (held > 0) state.counters["held/question"] = held / questions;
 }
 
-/// What reading costs; letting go isn't counted.
+/// The cost of reading without the release.
 void Read(benchmark::State& state) {
     const fs::path& file = Files::All().Of(ShapeOf(state), &DefinitionText);
     const Text path = FromNativePath(file.native());
@@ -54,7 +54,7 @@ void Read(benchmark::State& state) {
     Report(state, file, held);
 }
 
-/// Letting go of a definition that was read.
+/// The cost of releasing a definition that was read.
 void Release(benchmark::State& state) {
     const fs::path& file = Files::All().Of(ShapeOf(state), &DefinitionText);
     const Text path = FromNativePath(file.native());
@@ -68,7 +68,7 @@ void Release(benchmark::State& state) {
     Report(state, file, 0);
 }
 
-/// The same content out of a JSON file, which leaves a tree of values.
+/// Reads the same content from a JSON file into a tree of values.
 void ReadJson(benchmark::State& state) {
     const fs::path& file = Files::All().Of(ShapeOf(state), &DefinitionJson);
     double held = 0;
@@ -91,8 +91,8 @@ void ReadJson(benchmark::State& state) {
     Report(state, file, held);
 }
 
-/// A file that announces two thousand million learning objectives, with one question. The read says no; what
-/// counts is that it takes microseconds.
+/// A file with one question that announces two thousand million learning objectives. Reading it fails, and
+/// should take microseconds.
 void HostileCounts(benchmark::State& state) {
     const fs::path file = fs::temp_directory_path() / ("htdrdd_hostile." + std::to_string(::getpid()));
     WriteFile(file,

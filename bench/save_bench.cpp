@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 enum Form { kPlain, kArchive };
 
-/// A folder for the targets and, as temporary folder, for the texts that archived saves leave.
+/// A folder for the targets and, as the temporary folder, for the texts that archived saves leave.
 class Desk {
 public:
     Desk() {
@@ -50,7 +50,7 @@ void Report(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 
-/// Saving over what the last save left.
+/// Saves over the file of the previous save.
 void Save(benchmark::State& state, Form form) {
     const auto rdd = Definition(state);
     const Desk desk;
@@ -79,7 +79,7 @@ void ReadArchive(benchmark::State& state) {
     Report(state);
 }
 
-/// The same content written as a JSON file out of a tree of values.
+/// Writes the same content as a JSON file from a tree of values.
 void SaveJson(benchmark::State& state) {
     const auto json = nlohmann::json::parse(std::ifstream(Files::All().Of(ShapeOf(state), &DefinitionJson)));
     const Desk desk;

@@ -1,4 +1,4 @@
-/// Judging definitions that break no rule, so that every rule is looked at throughout.
+/// Validating definitions that break no rule, so that every rule is checked completely.
 #include "files.h"
 #include "htdrdd91/platform/encoding.h"
 
@@ -10,7 +10,7 @@ namespace {
 constexpr int kVersions = 4;
 constexpr int kObjectives = 6;
 
-/// A definition in no versions.
+/// A definition without versions.
 Ref<clsHTDRDD> Plain(const benchmark::State& state) {
     const Shape shape{.questions = static_cast<int>(state.range(0)),
                       .objectives = static_cast<int>(state.range(1))};
@@ -27,7 +27,7 @@ void EachQuestion(const clsHTDRDD& rdd, Edit edit) {
     for (std::int32_t l = 1; l <= rdd.Questions->Count(); ++l) edit(*rdd.Questions->Item(l));
 }
 
-/// Every question has choices of its own, and each version begins elsewhere in the test.
+/// Each question has its own choices, and each version begins at another question.
 Ref<clsHTDRDD> Scrambled(const benchmark::State& state) {
     auto rdd = Plain(state);
     if (!rdd) return rdd;
@@ -45,7 +45,7 @@ Ref<clsHTDRDD> Scrambled(const benchmark::State& state) {
     return rdd;
 }
 
-/// A correct answer in each version, and the same points for all.
+/// Each version has a correct answer, and all have the same points.
 Ref<clsHTDRDD> Standard(const benchmark::State& state) {
     auto rdd = Plain(state);
     if (!rdd) return rdd;

@@ -1,4 +1,4 @@
-# Sets `result` to a header and all headers of ours that it includes, directly or not, as paths from `root`.
+# Sets `result` to a header and all project headers that it includes, directly or indirectly, relative to `root`.
 function(public_headers result root header)
     set(found ${header})
     set(waiting ${header})

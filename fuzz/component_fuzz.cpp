@@ -1,4 +1,4 @@
-/// Calls members of all classes by name with arguments of any kind. So does a host that they call.
+/// Calls members of all classes by name with arguments of any kind. The host that they call does the same.
 #include "fuzzing.h"
 #include "htdrdd91/component/faces/classes.h"
 #include "htdrdd91/component/values/module_reference.h"
@@ -22,7 +22,7 @@ struct QuietDesktop final : Desktop {
     void Pause(std::int32_t /*milliseconds*/) override {}
 };
 
-/// Calls members, and is the error host and an object whose own members may call others.
+/// Calls members. It is also the error host and an object whose own members may call others.
 struct Outsider final : test::OutsideObject {
     FuzzedDataProvider input;
     std::vector<Com<IDispatch>> objects;
@@ -66,7 +66,7 @@ struct Outsider final : test::OutsideObject {
         const Com<IDispatch> face = objects[Below(objects.size())];
         const auto members = FindClass(OwnObject(face.Get())->ClassName())->members;
         const Member& member = members[Below(members.size())];
-        if (member.name == u"AddDefault") return; // of billions of questions
+        if (member.name == u"AddDefault") return; // it could add billions of questions
         std::vector<VARIANTARG> passed(Below(6) < 5 ? member.parameters.size() : Below(5));
         for (VARIANTARG& argument : passed) argument = Any(true);
         DISPID name = Below(8) < 7 ? DISPID_PROPERTYPUT : static_cast<DISPID>(Below(4));
@@ -87,7 +87,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ThisThread().errorHost = Make<ForeignObject>(Com<IDispatch>(&outsider));
     for (const ClassRow& row : Classes()) outsider.objects.emplace_back(&FaceOf(*row.make()));
     for (; outsider.input.remaining_bytes() > 0; outsider.held.clear()) outsider.CallMember();
-    for (const auto& face : outsider.objects) { // these may refer to themselves
+    for (const auto& face : outsider.objects) { // an object may refer to itself through these
         const auto object = OwnObject(face.Get());
         if (auto* const rdd = dynamic_cast<clsHTDRDD*>(object.Get())) rdd->oState = nullptr;
         if (auto* const header = dynamic_cast<Dictionary*>(object.Get())) header->RemoveAll();

@@ -1,5 +1,5 @@
-/// Any bytes as an exchange file, as a library, as the text of a scaled score and as a clip: what could be
-/// read is written, and reading that gives the same again.
+/// Reads any bytes as an exchange file, as a library, as the text of a scaled score and as a clip. A result
+/// is written, and reading it again must return the same.
 #include "fuzzing.h"
 #include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
 #include "htdrdd91/platform/encoding.h"

@@ -1,4 +1,4 @@
-/// What the fuzzers share.
+/// Shared by the fuzzers.
 #pragma once
 
 #include "htdrdd91/foundation/ErrorHost.h"
@@ -9,14 +9,14 @@
 
 namespace htdrdd::fuzz {
 
-/// Ends the run, and so makes a finding, where something doesn't hold.
+/// Aborts the run, and so reports a finding, if a condition doesn't hold.
 inline void Demand(bool holds, int line = __builtin_LINE()) {
     if (holds) return;
     std::fprintf(stderr, "line %d: this doesn't hold\n", line);
     std::abort();
 }
 
-/// Counts complaints and forgets them.
+/// Counts reports and messages.
 class CountingHost final : public ErrorHost {
 public:
     int complaints = 0;
@@ -30,7 +30,7 @@ public:
     }
 };
 
-/// The host of this thread. It is made on first use, in a region that no machine setting changes.
+/// The host of this thread, created on first use together with a fixed region.
 inline CountingHost& Host() {
     static const Ref<CountingHost> host = [] {
         auto made = Make<CountingHost>();

@@ -1,4 +1,4 @@
-/// Merges any bytes as a text key. The first byte chooses the question that tells the version.
+/// Merges any bytes as a text key. The first byte chooses the question that holds the version identifier.
 #include "fuzzing.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 #include "support/memory_file_system.h"
@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             Demand(question->Subtests->Count() == 1 && question->Subtests->Includes(1));
         }
         Demand(rdd->ValidateKey() && rdd->ValidateVersions());
-        // An answer or an identifier with a line end in it, which no response has, doesn't survive a file.
+        // Answers and identifiers with a line end, which no response has, don't survive a file.
         if (onOneLine)
             Demand(rdd->Save(u"/saved.rdd", false, false) && rdd->Read(u"/saved.rdd") && rdd->ValidateKey());
     }

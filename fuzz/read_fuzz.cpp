@@ -1,4 +1,4 @@
-/// Reads any bytes as a definition file and walks what came of them.
+/// Reads any bytes as a definition file and walks the result.
 #include "fuzzing.h"
 #include "htdrdd91/base/number.h"
 #include "htdrdd91/definition_file/basPublicUnicode.h"
@@ -23,9 +23,9 @@ bool IsGeneric(TextView type) {
     } catch (const Failure&) { return false; }
 }
 
-/// Whether a [Versions] section that isn't the last line may stand in a generic key: there the reader never
-/// ends, which is meant. The test goes by lines, wherever the type stands and whatever a later one says, so
-/// it may also skip a file that would end.
+/// Whether a generic key may have a [Versions] section before its last line. This is meant: the reader never
+/// finishes at such a section. The test only looks at lines: the type may be in any section and may be
+/// overwritten, so some files that the reader would finish are skipped too.
 bool MayNeverEnd(FileSystem& files) {
     TextReader stream(files, kFile, basPublic::EncodingOf(kFile));
     for (bool generic = false; !stream.AtEndOfStream();) {
@@ -39,9 +39,9 @@ bool MayNeverEnd(FileSystem& files) {
     return false;
 }
 
-/// What a definition holds, and what follows from it for a few subtests and keys.
+/// The content of a definition, and the results of its queries for a few subtests and keys.
 Text Walk(const clsHTDRDD& rdd) {
-    constexpr std::int32_t kFew = 4; // asking for one that is only announced makes it
+    constexpr std::int32_t kFew = 4; // a query for a subtest that is only announced creates it
     test::Telling telling;
     telling.Tell(rdd);
     for (std::int32_t l = 1; l <= std::min(rdd.Subtests->Count(), kFew); ++l) {
@@ -60,7 +60,7 @@ Text Walk(const clsHTDRDD& rdd) {
     return telling.told;
 }
 
-/// What holds for every definition that was read.
+/// Checks the properties of every definition that was read.
 void CheckDefinition(const clsHTDRDD& rdd) {
     const std::int32_t subtests = rdd.Subtests->Count();
     const std::int32_t sequences = rdd.Versions->Sequences->Count();
@@ -80,7 +80,7 @@ void CheckDefinition(const clsHTDRDD& rdd) {
     });
 }
 
-/// Whether a walk over rules finds nothing and comes to its end.
+/// Whether a walk over rules ends without a finding.
 template <class Walk>
 bool FindsNothing(Walk walk) {
     bool nothing = true;
@@ -93,7 +93,7 @@ bool FindsNothing(Walk walk) {
     return nothing;
 }
 
-/// A validator agrees with the walk over all of its rules.
+/// Checks that each validator agrees with the walk over all of its rules.
 void Judge(const Ref<clsHTDRDD>& rdd) {
     using Found = const FindingSink&;
     Demand(rdd->ValidateKey() == FindsNothing([&](Found found) { WalkKeyRules(*rdd, found); }));
@@ -110,8 +110,8 @@ void Judge(const Ref<clsHTDRDD>& rdd) {
     Demand(any == rdd->ScaledScoreIsValid());
 }
 
-/// Files of several [Report] sections may leave questions without a membership that the learning objectives
-/// ask for, which can't be saved, and older ones sequences without numbers, which are written but not read.
+/// Files with several [Report] sections may leave out memberships for some learning objectives, and then the
+/// definition can't be saved. Older files may have sequences without numbers, which are written but not read.
 bool IsWhole(const clsHTDRDD& rdd) {
     bool isWhole = true;
     test::Each(*rdd.Questions, [&](const clsHTDRDDQuestion& question) {
@@ -122,7 +122,7 @@ bool IsWhole(const clsHTDRDD& rdd) {
     return isWhole;
 }
 
-/// What was read can be saved, and once it was saved and read, saving it writes the same bytes ever again.
+/// A definition that was read can be saved, and after a save and a reload, each save writes the same bytes.
 void SaveAgain(const Ref<clsHTDRDD>& rdd, test::MemoryFileSystem& files) {
     if (!IsWhole(*rdd)) return;
     std::string former;

@@ -1,4 +1,4 @@
-/// Numbers, texts and sorting: what is written comes back, and whatever is read fails in the known ways only.
+/// Numbers, texts and sorting: written values are read back, and reading fails only in the known ways.
 #include "fuzzing.h"
 #include "htdrdd91/base/array.h"
 #include "htdrdd91/base/number.h"
@@ -19,7 +19,7 @@
 namespace htdrdd::fuzz {
 namespace {
 
-/// A number that was read, or none where it failed as reading may fail.
+/// The number that was read, or none after one of the allowed failures.
 template <class Read>
 std::optional<double> Number(Read read, bool mayMismatch) {
     try {
@@ -37,11 +37,11 @@ void CheckNumber(double value, std::int32_t places) {
     if (!std::isfinite(value)) return;
     const Text text = InvariantText(value);
     const auto back = Number([&] { return LeadingNumber(text); }, false);
-    // 15 digits of the very largest doubles are a larger number than any double.
+    // Rounded to 15 digits, the largest doubles exceed every double.
     Demand(back.has_value() || std::fabs(value) > 1.797693134862315e308);
     if (back) Demand(InvariantText(*back) == text);
     Demand(Number([&] { return RegionalNumber(RegionalText(value)); }, false) == back);
-    // Rounding moves a number by half of its last place at most, once 15 digits are kept.
+    // Rounding moves a number by at most half of its last place, apart from the limit of 15 digits.
     const Text fixed = FixedText(value, places);
     const double shown = basPublic::TextToDouble(fixed);
     Demand(FixedNumber(value, places).value_or(shown) == shown);
@@ -67,14 +67,14 @@ void CheckSorting(TextView text) {
     }
 }
 
-/// Ways to write numbers.
+/// Decimal mark, group mark and currency sign of regions.
 constexpr std::array<TextView, 4> kRegions{u".,$", u",.\u20ac", u".\u2019CHF", u",\u202f"};
 
 } // namespace
 } // namespace htdrdd::fuzz
 
-/// The first byte chooses the region, the second the places; the rest is the text, both as bytes and as
-/// units, and its first 8 bytes are a double.
+/// The first byte chooses the region, the second the number of places. The rest is the text, as bytes and as
+/// UTF-16 units, and its first 8 bytes are a double.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace htdrdd;
     using namespace htdrdd::fuzz;

@@ -1,4 +1,4 @@
-/// Takes any bytes apart as an archive.
+/// Unpacks any bytes as an archive.
 #include "fuzzing.h"
 #include "htdrdd91/definition_file/basPublicUnicode.h"
 #include "htdrdd91/foundation/basPublicFiles.h"

@@ -25,15 +25,15 @@ namespace {
 
 struct Parsed {
     std::function<ExitCode()> command;
-    int dashes = 0; ///< how often standard input is to be read
+    int dashes = 0; ///< number of inputs that are standard input
 };
 
 constexpr const char* kFooter =
-    "For one of the files to read, - stands for standard input.\n"
-    "Exit codes: 0 fine, 1 findings, differences, or something that was declined, 2 usage, 3 a file "
-    "that is missing, was refused or can't be written, 4 an internal failure.";
+    "One input file may be -, which is standard input.\n"
+    "Exit codes: 0 success; 1 findings, differences, or a save, an edit or a percentage was declined; "
+    "2 wrong usage; 3 a file is missing, was refused or can't be written; 4 internal failure.";
 
-/// A file to read that has to be named.
+/// Adds a required input file.
 CLI::Option* AddInput(CLI::App* app, Parsed& parsed, const char* name, auto& file, const char* description) {
     return app->add_option(name, file, description)
         ->required()
@@ -41,16 +41,16 @@ CLI::Option* AddInput(CLI::App* app, Parsed& parsed, const char* name, auto& fil
         ->each([&](const std::string& named) { parsed.dashes += named == "-" ? 1 : 0; });
 }
 
-/// Lets the arguments of a subcommand run something with its options.
+/// Sets the function that a subcommand runs with its options.
 template <class Options>
 void Runs(CLI::App* app, Parsed& parsed, const Options& options, ExitCode (*run)(const Options&)) {
     app->callback([&parsed, &options, run] { parsed.command = [&options, run] { return run(options); }; });
 }
 
 void AddShow(CLI::App& app, ShowOptions& options, Parsed& parsed) {
-    CLI::App* const show = app.add_subcommand("show", "Show what definition files hold");
+    CLI::App* const show = app.add_subcommand("show", "Show the content of definition files");
     AddInput(show, parsed, "FILE", options.files, "Definition files");
-    show->add_flag("--json", options.json, "Show everything, one JSON object for each file");
+    show->add_flag("--json", options.json, "Show everything as JSON, one object for each file");
     show->add_flag("--secrets", options.secrets,
                    "With --json: don't mask users, passwords and connection strings");
     Runs(show, parsed, options, Show);
@@ -58,30 +58,30 @@ void AddShow(CLI::App& app, ShowOptions& options, Parsed& parsed) {
 
 void AddValidate(CLI::App& app, ValidateOptions& options, Parsed& parsed) {
     CLI::App* const validate =
-        app.add_subcommand("validate", "Judge whether definition files can be trusted");
+        app.add_subcommand("validate", "Check whether definition files can be used for grading");
     AddInput(validate, parsed, "FILE", options.files, "Definition files");
-    validate->add_flag("--all", options.all,
-                       "Tell everything that is wrong, not only the first of each check");
-    validate->add_flag("--json", options.json, "Tell it for scripts, one JSON object for each file");
+    validate->add_flag("--all", options.all, "Show every finding, not only the first of each check");
+    validate->add_flag("--json", options.json, "Print JSON for scripts, one object for each file");
     Runs(validate, parsed, options, Validate);
 }
 
 void AddDiff(CLI::App& app, DiffOptions& options, Parsed& parsed) {
-    CLI::App* const diff = app.add_subcommand("diff", "Tell what two definitions would grade differently");
+    CLI::App* const diff =
+        app.add_subcommand("diff", "Show the differences in grading between two definitions");
     AddInput(diff, parsed, "A", options.before, "Definition file");
     AddInput(diff, parsed, "B", options.after, "Definition file");
-    diff->add_flag("--json", options.json, "Tell it for scripts, as one JSON object");
+    diff->add_flag("--json", options.json, "Print JSON for scripts, as one object");
     Runs(diff, parsed, options, Diff);
 }
 
 void AddSaveFlags(CLI::App* app, SaveOptions& options) {
     app->add_flag("--plain", options.plain, "Save as plain text, not as an archive");
-    app->add_flag("--yes", options.yes, "Save without a question, even with test versions that are invalid");
+    app->add_flag("--yes", options.yes, "Save without asking, even with invalid test versions");
 }
 
 void AddConvert(CLI::App& app, ConvertOptions& options, Parsed& parsed) {
     CLI::App* const convert =
-        app.add_subcommand("convert", "Save a definition of any age in the current form");
+        app.add_subcommand("convert", "Save a definition of any age in the current format");
     AddInput(convert, parsed, "IN", options.file, "Definition file");
     convert->add_option("OUT", options.save.file, "File to write")->required()->type_name("");
     AddSaveFlags(convert, options.save);
@@ -90,7 +90,7 @@ void AddConvert(CLI::App& app, ConvertOptions& options, Parsed& parsed) {
 
 void AddHeader(CLI::App& app, HeaderOptions& options, Parsed& parsed) {
     CLI::App* const header =
-        app.add_subcommand("header", "Exchange the settings of the report header with header files");
+        app.add_subcommand("header", "Copy the settings of the report header to or from a header file");
     header->require_subcommand(1);
     CLI::App* const save =
         header->add_subcommand("save", "Write the header settings of a definition to a header file");
@@ -109,13 +109,14 @@ void AddHeader(CLI::App& app, HeaderOptions& options, Parsed& parsed) {
 void AddMerge(CLI::App& app, MergeOptions& options, Parsed& parsed) {
     CLI::App* const merge = app.add_subcommand("merge", "Merge an answer key into a definition");
     AddInput(merge, parsed, "ACTIVE", options.active, "Definition file");
-    AddInput(merge, parsed, "KEY", options.key, "Text key, or with --generic a definition file");
-    CLI::Option* const out = merge->add_option("-o", options.save.file, "File to write; without it none is");
+    AddInput(merge, parsed, "KEY", options.key, "Text key; with --generic, a definition file");
+    CLI::Option* const out =
+        merge->add_option("-o", options.save.file, "File to write; by default no file is written");
     out->type_name("OUT");
     merge->add_flag("--generic", options.generic, "KEY is a generic key");
     merge->add_flag("--plain", options.save.plain, "Save as plain text, not as an archive")->needs(out);
-    merge->add_flag("--force", options.force, "Save in spite of complaints")->needs(out);
-    merge->add_flag("--json", options.json, "Tell what changed for scripts, as one JSON object");
+    merge->add_flag("--force", options.force, "Save despite complaints")->needs(out);
+    merge->add_flag("--json", options.json, "Print the changes as JSON for scripts, as one object");
     merge->callback([&] {
         options.save.quiet = options.json;
         parsed.command = [&] { return Merge(options); };
@@ -126,11 +127,11 @@ constexpr const char* kRecordFile = "Definition file or exchange file";
 
 void AddObjective(CLI::App* app, std::optional<std::string>& objective) {
     app->add_option("--objective", objective,
-                    "Learning objective, by position or name; otherwise that of the whole test")
+                    "Learning objective, by position or name; default: the whole test")
         ->type_name("X");
 }
 
-void AddJson(CLI::App* app, bool& json, const char* description = "Tell it for scripts, as one JSON object") {
+void AddJson(CLI::App* app, bool& json, const char* description = "Print JSON for scripts, as one object") {
     app->add_flag("--json", json, description);
 }
 
@@ -168,8 +169,8 @@ CLI::App* AddRecord(CLI::App& app, const char* name, const char* description, Re
 }
 
 void AddClip(CLI::App* scale, ClipOptions& options, Parsed& parsed) {
-    CLI::App* const clip =
-        scale->add_subcommand("clip", "Copy a grade scale to a spreadsheet, or paste one from there");
+    CLI::App* const clip = scale->add_subcommand(
+        "clip", "Print a grade scale for a spreadsheet, or paste one from a spreadsheet");
     CLI::Option* const file = AddInput(clip, parsed, "FILE", options.file, kRecordFile)->required(false);
     AddObjective(clip, options.objective);
     CLI::Option* const paste = AddInput(clip, parsed, "--paste", options.paste,
@@ -189,17 +190,17 @@ void AddClip(CLI::App* scale, ClipOptions& options, Parsed& parsed) {
 
 void AddGrade(CLI::App* scale, GradeOptions& options, Parsed& parsed) {
     constexpr std::int16_t kMostPlaces = 15;
-    CLI::App* const grade = scale->add_subcommand("grade", "Tell the grades of percentages");
+    CLI::App* const grade = scale->add_subcommand("grade", "Show the grades of percentages");
     AddInput(grade, parsed, "FILE", options.file, kRecordFile);
     grade
         ->add_option("PERCENT", options.percents,
-                     "Such as 89.5, 90% or -0.5; without any, those on the lines of standard input")
+                     "Such as 89.5, 90% or -0.5; default: the lines of standard input")
         ->type_name("");
     AddObjective(grade, options.objective);
-    grade->add_option("--places", options.places, "Decimal places to which they are rounded, 3 otherwise")
+    grade->add_option("--places", options.places, "Decimal places to round to; default: 3")
         ->check(CLI::Range(std::int16_t{0}, kMostPlaces))
         ->type_name("N");
-    AddJson(grade, options.json, "Tell it for scripts, one JSON object for each percentage");
+    AddJson(grade, options.json, "Print JSON for scripts, one object for each percentage");
     grade->callback([&] {
         if (options.percents.empty()) parsed.dashes += 1;
         parsed.command = [&] { return GradePercents(options); };
@@ -213,7 +214,7 @@ void AddLibrary(CLI::App& app, LibraryOptions& options, Parsed& parsed) {
     const auto add = [&](const char* name, const char* description, auto run) {
         CLI::App* const sub = library->add_subcommand(name, description);
         AddInput(sub, parsed, "LIBRARY", options.library, "Library file");
-        sub->add_flag("--scaled-scores", options.scaledScores, "It holds scaled scores");
+        sub->add_flag("--scaled-scores", options.scaledScores, "LIBRARY contains scaled scores");
         AddJson(sub, options.json);
         Runs(sub, parsed, options, run);
         return sub;
@@ -224,20 +225,20 @@ void AddLibrary(CLI::App& app, LibraryOptions& options, Parsed& parsed) {
         return sub;
     };
     add("list", "Show the entries", ListLibrary);
-    CLI::App* const adds = addEdit("add", "Add an entry; a library that isn't there is made", AddToLibrary);
+    CLI::App* const adds = addEdit("add", "Add an entry; creates a missing library", AddToLibrary);
     AddInput(adds, parsed, "FILE", options.file, kRecordFile);
-    adds->add_option("--name", options.newName, "Name of the entry, otherwise that in FILE")
+    adds->add_option("--name", options.newName, "Name of the entry; default: the name in FILE")
         ->type_name("NAME");
     AddObjective(adds, options.objective);
     CLI::App* const removes = addEdit("remove", "Remove an entry", RemoveFromLibrary);
     removes->add_option("NAME", options.name, "Name of the entry")->required()->type_name("");
     CLI::App* const renames = addEdit("rename", "Rename an entry, which keeps its place", RenameInLibrary);
     renames->add_option("OLD", options.name, "Name of the entry")->required()->type_name("");
-    renames->add_option("NEW", options.newName, "Its new name")->required()->type_name("");
+    renames->add_option("NEW", options.newName, "New name")->required()->type_name("");
 }
 
 void AddScore(CLI::App& app, ScoreOptions& options, Parsed& parsed) {
-    CLI::App* const score = app.add_subcommand("score", "Calculate points and percent");
+    CLI::App* const score = app.add_subcommand("score", "Calculate points and percentages");
     score->require_subcommand(1);
     const auto add = [&](const char* name, const char* description, auto run, const char* first) {
         CLI::App* const sub = score->add_subcommand(name, description);
@@ -246,23 +247,23 @@ void AddScore(CLI::App& app, ScoreOptions& options, Parsed& parsed) {
         AddJson(sub, options.json);
         Runs(sub, parsed, options, run);
     };
-    add("percent", "Tell how much a number of points is of those possible", PercentScore, "TOTAL");
-    add("total", "Tell how many points a percentage is of those possible", TotalScore, "PERCENT");
-    CLI::App* const possible = score->add_subcommand("possible", "Tell the points that can be earned");
+    add("percent", "Calculate the percentage of the possible points", PercentScore, "TOTAL");
+    add("total", "Calculate the points of a percentage", TotalScore, "PERCENT");
+    CLI::App* const possible = score->add_subcommand("possible", "Calculate the points that can be earned");
     AddInput(possible, parsed, "DEFINITION", options.file, "Definition file");
     AddObjective(possible, options.objective);
     AddJson(possible, options.json);
     Runs(possible, parsed, options, PossibleScore);
 }
 
-/// Does what the arguments ask for. Fails to the caller.
+/// Parses the arguments and runs the command. A failure passes to the caller.
 ExitCode RunCommandLine(int argc, char** argv) {
-    CLI::App app("Shows, judges, compares, merges and saves answer keys of tests and surveys", "htdrdd");
+    CLI::App app("Shows, checks, compares, merges and saves answer keys of tests and surveys", "htdrdd");
     app.set_version_flag("--version", "htdrdd " + std::string(kRelease), "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.footer(kFooter);
     app.require_subcommand(1);
-    app.fallthrough(); // --version behind a subcommand
+    app.fallthrough(); // for --version after a subcommand
 
     Parsed parsed;
     ShowOptions showOptions;
@@ -299,7 +300,7 @@ ExitCode RunCommandLine(int argc, char** argv) {
         Print(std::string(version.what()) + '\n');
         return ExitCode::Fine;
     } catch (const CLI::ParseError& error) {
-        Complain(Harmless(std::string_view(error.what())) + " (htdrdd --help tells more)");
+        Complain(Harmless(std::string_view(error.what())) + " (see htdrdd --help)");
         return ExitCode::Usage;
     }
     return parsed.command();

@@ -1,4 +1,4 @@
-// Holds the folders to their layers, and libraries, names and conditional code to their places.
+// Checks that folders include only lower layers, and that libraries, names and conditional code are in place.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,8 +10,8 @@
 
 namespace {
 
-/// The layers, from the top of the list down: a file includes its own layer and those above. Names are those
-/// of folders under src/htdrdd91/, whole.
+/// The layers, lowest first. A file includes only its own layer and those before it in this list. The names
+/// are whole folder names under src/htdrdd91/.
 const std::vector<std::string> kLayers{"base",
                                        "platform",
                                        "foundation",
@@ -26,8 +26,8 @@ const std::vector<std::string> kLayers{"base",
                                        "component/faces",
                                        "component/entry"};
 
-/// Position of a path's layer in the list; that of no layer is the last. One pair of files is an exception:
-/// the library of grade scales stays with its scales, although it knows documents.
+/// The position of a path's layer in the list; the length of the list if the path is in no layer. One
+/// exception: the library of grade scales is stored with its scales, although it uses documents.
 std::size_t Layer(std::string path) {
     if (path.starts_with("grade_scales/clsHTDGradeScaleManager.")) path = "merge/";
     const auto found = std::find_if(kLayers.begin(), kLayers.end(),
@@ -37,7 +37,7 @@ std::size_t Layer(std::string path) {
 
 const std::string kSources = "src/htdrdd91";
 
-/// Files in a folder, and what a pattern's last group finds in their lines.
+/// The files in a folder with a line that matches a pattern, and the match of the pattern's last group.
 std::vector<std::pair<std::string, std::string>> Lines(const std::string& folder,
                                                        const std::string& pattern) {
     const auto root = std::filesystem::path(HTDRDD_SOURCE_DIR) / folder;

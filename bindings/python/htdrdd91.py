@@ -6,8 +6,8 @@
     if rdd.Read("quiz.rdd"):
         print(rdd.Questions.Item(1).QuestionName)
 
-An object belongs to the thread that created it. Lists, arguments left out or by reference, and the empty object: see
-Array, MISSING, Ref and NOTHING in variants.py.
+An object belongs to the thread that created it. See Array, MISSING, Ref and NOTHING in variants.py for lists,
+omitted arguments, arguments by reference and the empty object.
 """
 
 import ctypes
@@ -54,11 +54,11 @@ DEFAULT_MEMBER, PUT_VALUE, NEW_ENUM = 0, -3, -4
 NOT_IMPLEMENTED, NO_SUCH_INTERFACE, FAILED, NO_SUCH_EVENT = 0x80004001, 0x80004002, 0x80004005, 0x80040200
 NOT_AVAILABLE, MEMBER_NOT_FOUND, UNKNOWN_NAME, EXCEPTION = 0x80040111, 0x80020003, 0x80020006, 0x80020009
 WRONG_COUNT, NOT_OPTIONAL = 0x8002000E, 0x8002000F
-RAISED = 0x800A0000  # and the number of the failure
+RAISED = 0x800A0000  # plus the number of the failure
 
 
 class ComponentError(Exception):
-    """A failure that a member let pass: its number, or the result code of a call that never reached the member."""
+    """A failure of a member with its number, or the result code of a call that didn't reach the member."""
 
     def __init__(self, number, text=""):
         super().__init__(number, text)
@@ -80,7 +80,7 @@ class FailureRecord(ctypes.Structure):
 
 
 def load(path):
-    """Loads the component, before anything else, and gives its exported functions."""
+    """Loads the component and returns its exported functions. Must be called first."""
     global library
     library = ctypes.CDLL(path)
     variants.use(library, lambda pointer: living.get(pointer) or Object(pointer, shared=True))
@@ -105,16 +105,17 @@ def global_object(name):
 
 
 def call_slot(pointer, slot, types, *arguments):
-    """Calls the function in a slot of an interface; gives its result code."""
+    """Calls the function in a slot of an interface; returns its result code."""
     table = c_void_p.from_address(pointer).value
     entry = c_void_p.from_address(table + slot * sizeof(c_void_p)).value
     return CFUNCTYPE(c_int32, c_void_p, *types)(entry)(pointer, *arguments)
 
 
 class Object:
-    """An object of the component: `rdd.Notes` reads, `rdd.Notes = "x"` writes, `rdd.Read(path)` calls, in any case;
-    names of arguments go as keywords. `codes.put("Item", 1, "x")` writes a property with arguments, `codes(1)` is the
-    default member; lists are walked from 1 to `Count`. Two are equal that stand for the same object."""
+    """An object of the component: `rdd.Notes` reads, `rdd.Notes = "x"` writes, `rdd.Read(path)` calls. Names
+    ignore case, and named arguments are keywords. `codes.put("Item", 1, "x")` writes a property with arguments,
+    `codes(1)` calls the default member. Lists are indexed from 1 to `Count`. Two instances are equal if they
+    refer to the same object."""
 
     def __init__(self, pointer, shared=False):
         self._pointer = pointer
@@ -162,7 +163,7 @@ class Object:
         self._invoke(flag, self._identifiers(name) + [PUT_VALUE], arguments, [value])
 
     def connect(self, **handler):
-        """Has a function called at an event, connect(AfterRead=f). Gives the function that ends it."""
+        """Connects a function to an event, as in connect(AfterRead=f); returns a function to disconnect it."""
         ((event, function),) = handler.items()
         container, point, cookie, sink = self._query(CONNECTIONS_INTERFACE), c_void_p(), c_uint32(), Dispatch()
         found = (i for i in EVENTS[event] if container._slot(4, (c_void_p, c_void_p), i, byref(point)) == 0)
@@ -230,8 +231,8 @@ class Object:
 
 
 class Dispatch:
-    """Base of Python objects that the component calls by name, such as a host. Arguments by reference arrive as Ref,
-    omitted ones as MISSING; an exception goes back as a failure."""
+    """Base of Python objects that the component calls by name, such as a host. Arguments by reference are
+    passed as Ref, omitted ones as MISSING. An exception is returned as a failure."""
 
     def __new__(cls, *_, **__):
         self = super().__new__(cls)
@@ -251,7 +252,7 @@ class Dispatch:
         return self._count
 
     def _identifier(self, wanted):
-        """The position in _names, which a member gets when it is first asked for; -1 if there is no such member."""
+        """The position in _names, to which the first request adds the name; -1 if there is no such member."""
         known = [name for name in dir(self) if name.lower() == wanted.lower() and not name.startswith("_")]
         self._names += [name for name in known[:1] if name not in self._names]
         return self._names.index(known[0]) if known else -1
@@ -263,7 +264,7 @@ class Dispatch:
         return member(*arguments) if callable(member) else member
 
 
-living = {}  # by address, the Python objects that somebody outside holds
+living = {}  # Python objects with outside references, by address
 
 
 def query(this, interface, result):

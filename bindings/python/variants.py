@@ -1,6 +1,7 @@
-"""The component's values in memory, as Python's: text, numbers, booleans, lists and objects, and what None is not.
+"""Converts between the component's values in memory and Python's: text, numbers, booleans, lists, objects, and
+the special values MISSING and NOTHING.
 
-What is written at an address belongs to it; what is read there stays there.
+A value that is written belongs to its address. Reading copies the value.
 """
 
 import ctypes
@@ -14,11 +15,11 @@ POINTERS = {BSTR, DISPATCH, UNKNOWN}
 OMITTED = 0x80020004
 
 Special = enum.Enum("Special", "MISSING NOTHING")
-MISSING, NOTHING = Special  # an argument left out; the empty object reference
+MISSING, NOTHING = Special  # an omitted argument; the empty object reference
 
 
 class Array(list):
-    """A list with its elements' kind and its lowest position. Without bounds, `lower` is None."""
+    """A list with the kind of its elements and its lower bound; `lower` is None if it has no bounds."""
 
     def __init__(self, items=(), kind=VARIANT, lower=0):
         super().__init__(items)
@@ -26,7 +27,7 @@ class Array(list):
 
 
 class Ref:
-    """An argument by reference, which holds the value after the call. It has its value's kind, unless one is told."""
+    """An argument by reference; holds the new value after the call. `kind` defaults to the value's kind."""
 
     def __init__(self, value=None, kind=None):
         self.value, self.kind = value, kind
@@ -42,7 +43,7 @@ class SafeArray(ctypes.Structure):
 
 
 def use(component, object_at):
-    """Has texts and arrays made by a component, and objects by a function from their pointers."""
+    """Sets the component that creates texts and arrays, and the function that wraps object pointers."""
     global library, wrap
     library, wrap = component, object_at
     library.SysAllocStringLen.restype = library.SafeArrayCreate.restype = c_void_p
@@ -133,7 +134,7 @@ def replace(kind, address, value):
 
 
 def pass_on(place, target, value):
-    """Fills an argument's place; what a reference refers to goes to the target."""
+    """Writes an argument to its place. The value of an argument by reference goes to the target."""
     if not isinstance(value, Ref):
         return write(VARIANT, addressof(place), value)
     kind = value.kind or kind_of(value.value) or VARIANT

@@ -1,5 +1,5 @@
-// A program that loads the component when it runs, by nothing but its path: it reads a definition, judges it
-// and lists its questions. host LIBRARY DEFINITION
+// host LIBRARY DEFINITION: loads the component from its path at run time, reads a definition, validates it
+// and lists its questions.
 #include "htdrdd91/component/entry/exports.h"
 
 #include <cstdio>
@@ -33,13 +33,13 @@ public:
     decltype(&VariantClear) clear{};
     decltype(&GetErrorInfo) failure{};
 
-    /// The text, which is freed.
+    /// Copies and frees a text.
     [[nodiscard]] std::u16string Take(BSTR text) const {
         std::u16string taken(text, text != nullptr ? length(text) : 0);
         free(text);
         return taken;
     }
-    /// Throws what a call failed with.
+    /// Throws the failure of a call.
     void Check(HRESULT result) const {
         if (SUCCEEDED(result)) return;
         IErrorInfo* info = nullptr;
@@ -66,7 +66,7 @@ struct Release {
 template <class Interface>
 using Object = std::unique_ptr<Interface, Release>;
 
-/// What the component calls by name when it has something to say.
+/// The object that the component calls by name to report failures and show messages.
 class Host final : public IDispatch {
 public:
     explicit Host(const Component& component) : component_(component) {}
@@ -77,7 +77,7 @@ public:
         *found = isOne ? this : nullptr;
         return isOne ? S_OK : E_NOINTERFACE;
     }
-    ULONG AddRef() override { return 1; } // it lives as long as the program
+    ULONG AddRef() override { return 1; } // outlives all uses
     ULONG Release() override { return 1; }
     HRESULT GetTypeInfoCount(UINT* count) override {
         *count = 0;
@@ -94,7 +94,7 @@ public:
     }
     HRESULT Invoke(DISPID id, REFIID /*riid*/, LCID /*language*/, WORD flags, DISPPARAMS* arguments,
                    VARIANT* result, EXCEPINFO* /*told*/, UINT* /*refused*/) override {
-        const VARIANT* const last = arguments->rgvarg; // arguments stand from the last to the first
+        const VARIANT* const last = arguments->rgvarg; // the arguments are in reverse order
         if (id == kSilent && (flags & DISPATCH_PROPERTYPUT) != 0) {
             silent_ = last->boolVal;
         } else if (id == kSilent) {
@@ -104,15 +104,14 @@ public:
         } else if (id == kRaiseError && silent_ == VARIANT_FALSE) {
             Show(arguments->rgvarg[10]); // the third of 13
         } else if (id == kMsgBoxEx) {
-            Show(arguments->rgvarg[arguments->cArgs -
-                                   2]); // the second; the result of a stop message doesn't count
+            Show(arguments->rgvarg[arguments->cArgs - 2]); // the second; stop messages ignore the result
         }
         return S_OK;
     }
 
 private:
     enum : DISPID { kSilent = 1, kRaiseError, kMsgBoxEx };
-    /// A text that comes by reference.
+    /// Prints a text that is passed by reference.
     void Show(const VARIANT& text) const {
         std::printf("%s\n", Utf8({*text.pbstrVal, component_.length(*text.pbstrVal)}).c_str());
     }
@@ -120,7 +119,7 @@ private:
     VARIANT_BOOL silent_ = VARIANT_FALSE;
 };
 
-/// The host object of this thread, as long as this is there: it mustn't end before that.
+/// Registers a host object for this thread during its own lifetime, which the host object must outlast.
 class Registration {
 public:
     Registration(const Component& component, _clsHTDRDD& rdd, IDispatch& host) : rdd_(rdd) {

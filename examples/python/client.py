@@ -7,7 +7,7 @@ from htdrdd91 import Ref
 
 
 class Host(htdrdd91.Dispatch):
-    """Shows what the component has to tell a person."""
+    """Prints the component's reports and messages."""
 
     def __init__(self):
         self.Silent = False
@@ -34,7 +34,7 @@ def show(rdd):
 
 
 def validate(rdd):
-    """Whether the key can be used for grading; if not, tells the question that stands in the way."""
+    """Whether the key can be used for grading; if not, prints the question that breaks a rule."""
     position = Ref(-1)
     valid = rdd.ValidateKey(bVerbose=True, lInvalidQuestion=position)
     if not valid and position.value > 0:

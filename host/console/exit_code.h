@@ -1,4 +1,4 @@
-/// What the program ends with.
+/// The exit codes of the program.
 #pragma once
 
 namespace htdrdd::host {

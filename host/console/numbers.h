@@ -1,4 +1,4 @@
-/// Numbers as people read them.
+/// Numbers in a form for people.
 #pragma once
 
 #include <optional>
@@ -7,17 +7,18 @@
 
 namespace htdrdd::host {
 
-/// With a point as decimal mark, and the digits that the number needs.
+/// With "." as decimal mark and no more digits than the number needs.
 [[nodiscard]] std::string NumberText(double value);
-/// With no more than the 15 digits that the system counts on: 28 for 28.000000000000004.
+/// Rounded to the 15 digits that the system uses: 28 for 28.000000000000004.
 [[nodiscard]] double Plain(double value);
 
-/// The number of a text that is nothing else: "." as decimal mark, no exponent, no blanks.
+/// The number of a text that contains nothing else; "." is the decimal mark, exponents and blanks aren't
+/// allowed.
 [[nodiscard]] std::optional<double> NumberOf(std::string_view text);
-/// The same, with or without a "%" behind it.
+/// The same, with or without a "%" at the end.
 [[nodiscard]] std::optional<double> PercentOf(std::string_view text);
 
-/// Whether a number has a value at all.
+/// Whether a number isn't HTDValueUndefined.
 [[nodiscard]] bool HasValue(double number);
 
 } // namespace htdrdd::host

@@ -9,7 +9,7 @@
 namespace htdrdd::host {
 namespace {
 
-int writeError = 0; // the first one
+int writeError = 0; // the first error
 bool statusStands = false;
 
 bool IsHarmful(char16_t unit) {
@@ -62,7 +62,7 @@ void ShowStatus(std::string_view text) {
 
 void Complain(std::string_view text) {
     EraseStatus();
-    std::fflush(stdout); // so that both come in order on a terminal; Finished finds what fails here
+    std::fflush(stdout); // keeps both streams in order on a terminal; Finished detects errors
     const std::string line = std::string("htdrdd: ").append(text) + '\n';
     std::fwrite(line.data(), 1, line.size(), stderr);
 }

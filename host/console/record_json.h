@@ -7,10 +7,10 @@
 
 namespace htdrdd::host {
 
-/// A user, password or connection string as it may be shown: masked, unless bSecrets is set or it is empty.
+/// A user, password or connection string, masked unless bSecrets is set or it is empty.
 [[nodiscard]] TextView Masked(TextView secret, bool bSecrets);
 
-/// Members are named as the properties.
+/// Members have the names of the properties.
 [[nodiscard]] nlohmann::ordered_json RecordAsJson(const clsHTDRDDGradeScale& scale, bool bSecrets = false);
 [[nodiscard]] nlohmann::ordered_json RecordAsJson(const clsHTDRDDScaledScore& score, bool bSecrets = false);
 

@@ -16,7 +16,7 @@ std::string Padded(std::string_view cell, std::size_t width, Table::Align align)
 
 } // namespace
 
-/// 0 for a column that is left out.
+/// The width of each column; 0 for a column that is left out.
 std::vector<std::size_t> Table::Widths(std::size_t width) const {
     std::vector<std::size_t> widths(columns_.size(), 0);
     std::vector<std::vector<std::size_t>> spoilt(columns_.size()); // number of cells cut, by width

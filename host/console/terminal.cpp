@@ -29,7 +29,7 @@ bool IsIn(const std::array<Range, N>& ranges, char32_t c) {
                        [c](const Range& range) { return c >= range.first && c <= range.last; });
 }
 
-/// Takes one character off the front of valid UTF-8.
+/// Removes and returns the first character of valid UTF-8.
 char32_t TakeCharacter(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;

@@ -1,4 +1,4 @@
-/// The terminal behind standard output, or what stands in its place.
+/// The width and the colour of standard output and standard error.
 #pragma once
 
 #include <cstddef>
@@ -11,19 +11,19 @@ struct Terminal {
     std::size_t width = 100;
     bool colour = false;
 
-    /// A terminal's own width, else COLUMNS, else 80 on a terminal and 100 elsewhere. Colour only on a
-    /// terminal, and not where NO_COLOR is set to anything.
+    /// The width is that of the terminal, else COLUMNS, else 80 on a terminal and 100 elsewhere. Colour is
+    /// used only on a terminal, and not if NO_COLOR is set to anything.
     [[nodiscard]] static Terminal OfOutput();
-    /// That of standard error.
+    /// The same for standard error.
     [[nodiscard]] static Terminal OfErrors();
 
     [[nodiscard]] std::string Bold(std::string_view text) const;
     [[nodiscard]] std::string Dim(std::string_view text) const;
 };
 
-/// Columns that UTF-8 text takes: two for each East Asian wide character, none for a combining mark.
+/// Columns of UTF-8 text: two for each East Asian wide character, none for a combining mark.
 [[nodiscard]] std::size_t DisplayWidth(std::string_view text);
-/// The text, or its beginning and "…" where it takes more columns.
+/// The text, or its beginning and "…" if it is wider.
 [[nodiscard]] std::string Fitted(std::string_view text, std::size_t width);
 
 } // namespace htdrdd::host

@@ -19,7 +19,7 @@ std::string VersionsText(const clsHTDRDDVersions& versions) {
     std::string text = std::to_string(versions.Answers->Count());
     text += type == HTDVersionTypeKey ? " standard versions (" : " scrambled versions (";
     text += Harmless(versions.Answers->AsString(u", "));
-    text += "), told by question " + std::to_string(versions.Question);
+    text += "), identified by question " + std::to_string(versions.Question);
     return text;
 }
 

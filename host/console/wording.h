@@ -8,18 +8,18 @@
 namespace htdrdd::host {
 
 [[nodiscard]] std::string TypeName(HTDReportType type);
-/// "2 standard versions (A, B), told by question 2", or "none".
+/// "2 standard versions (A, B), identified by question 2", or "none".
 [[nodiscard]] std::string VersionsText(const clsHTDRDDVersions& versions);
 
-/// Which number of the respondent is looked up: "percent score". Empty where no scaled score is defined.
+/// The looked-up number of the respondent: "percent score". Empty if no scaled score is defined.
 [[nodiscard]] const char* LookupText(HTDScaledScoreValues values);
 /// "A 90, F 0"
 [[nodiscard]] std::string RecordText(const clsHTDRDDGradeScale& scale);
-/// What a scaled score is looked up by and where: "percent score in table Norms of SCORES". Empty for a
-/// record that isn't filled in.
+/// The looked-up number and the table: "percent score in table Norms of SCORES". Empty for a record that
+/// isn't filled in.
 [[nodiscard]] std::string RecordText(const clsHTDRDDScaledScore& score);
 
-/// That of a learning objective: its own or, in files that have none there, that of the document.
+/// The record of a learning objective: its own or, in files without it, that of the document.
 [[nodiscard]] const clsHTDRDDGradeScale& GradeScaleOf(const clsHTDRDD& definition, std::int32_t objective);
 [[nodiscard]] const clsHTDRDDScaledScore& ScaledScoreOf(const clsHTDRDD& definition, std::int32_t objective);
 

@@ -1,4 +1,4 @@
-/// htdrdd convert: a definition of any age in the current form.
+/// htdrdd convert: saves a definition of any age in the current format.
 #pragma once
 
 #include "host/files/saving.h"

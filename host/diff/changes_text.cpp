@@ -70,7 +70,7 @@ std::vector<std::string> Cells(const Json& question) {
 } // namespace
 
 std::string ChangesText(const Json& changes, const Terminal& terminal) {
-    if (changes["gradingDiffers"] == false) return "Nothing differs that grading depends on.\n";
+    if (changes["gradingDiffers"] == false) return "The grading doesn't differ.\n";
     Table table({{"#", Table::Align::Right},
                  {"Question"},
                  {"Answer before"},

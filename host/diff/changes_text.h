@@ -1,4 +1,4 @@
-/// The changes of a key as a person reads them.
+/// The changes of a key, as text for people.
 #pragma once
 
 #include "host/console/terminal.h"
@@ -9,7 +9,7 @@
 
 namespace htdrdd::host {
 
-/// A table of the questions that differ and a line for each thing beside them, or one sentence.
+/// A table of the questions that differ and a line for each other difference; one sentence if there are none.
 [[nodiscard]] std::string ChangesText(const nlohmann::ordered_json& changes, const Terminal& terminal);
 
 } // namespace htdrdd::host

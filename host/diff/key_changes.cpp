@@ -38,7 +38,7 @@ Json PointsOf(const clsHTDRDDQuestion& question, HTDVersionType versions) {
     return question.PartialCredit ? Of(*question.CorrectAnswerPoints) : Json(question.CorrectPoints);
 }
 
-constexpr std::size_t kWorth = 5; ///< number of members that tell the answer and what it is worth
+constexpr std::size_t kWorth = 5; ///< number of members for the answer and its points
 
 static_assert(kMemberCount<clsHTDRDDQuestion> == 38, "A new member that changes grades is compared, too.");
 
@@ -69,13 +69,13 @@ Json Of(const clsHTDRDDQuestion& q, const clsHTDRDD& definition) {
                           q.MissingValue, q.NAValue})}};
 }
 
-/// "A 90, F 0; from 2: none" for what the learning objectives have, where `of(l)` gives the thing and
+/// "A 90, F 0; from 2: none" for a thing of each learning objective: `of(l)` returns the thing, and
 /// `words(thing)` its text.
 template <class Of, class Words>
 std::string ByObjective(const clsHTDRDD& definition, Of of, Words words) {
     std::string all;
     std::string last;
-    const void* seen = nullptr; // what several learning objectives may share
+    const void* seen = nullptr; // several learning objectives may share a thing
     for (std::int32_t l = 1; l <= definition.Subtests->Count(); ++l) {
         const auto& thing = of(l);
         if (std::exchange(seen, &thing) == &thing) continue;
@@ -101,7 +101,7 @@ std::string GradeScales(const clsHTDRDD& definition) {
     });
 }
 
-/// All members but the name, with those that mustn't be shown.
+/// All members except the name, including those that must not be shown.
 std::string ScaledScores(const clsHTDRDD& definition) {
     const auto of = [&](std::int32_t l) -> const auto& { return ScaledScoreOf(definition, l); };
     return ByObjective(definition, of, [](const clsHTDRDDScaledScore& score) {
@@ -113,7 +113,7 @@ std::string ScaledScores(const clsHTDRDD& definition) {
     });
 }
 
-/// Behind a line end stands what counts but isn't told.
+/// The text after a line end is compared, but not shown.
 Json OtherOf(const clsHTDRDD& definition) {
     const clsHTDRDDVersions& versions = *definition.Versions;
     std::string orders;
@@ -134,7 +134,7 @@ Json OtherOf(const clsHTDRDD& definition) {
 
 Json Pair(const Json& before, const Json& after) { return {{"before", before}, {"after", after}}; }
 
-/// What differs between two questions, of which one may be null.
+/// Adds the differences between two questions, one of which may be null.
 void AddChanges(Json& changes, const Json& before, const Json& after) {
     std::size_t place = 0;
     for (const auto& [name, value] : (after.is_null() ? before : after).items()) {
@@ -154,7 +154,7 @@ Json KeySnapshot(const clsHTDRDD& definition) {
     Json questions = Json::array();
     for (std::int32_t l = 1; l <= definition.Questions->Count(); ++l) {
         const clsHTDRDDQuestion& question = *definition.Questions->Item(l);
-        // As text, which takes less room.
+        // As text, which takes less memory.
         questions.push_back(
             {{"name", ToUtf8(question.QuestionName)}, {"key", Of(question, definition).dump()}});
     }

@@ -1,4 +1,4 @@
-/// What changes between two keys.
+/// The differences between two keys.
 #pragma once
 
 #include "htdrdd91/model/clsHTDRDD.h"
@@ -7,12 +7,12 @@
 
 namespace htdrdd::host {
 
-/// What grading depends on in a definition, as it is now. It may hold secrets.
+/// Everything in a definition that grading depends on, in its present state. It may contain secrets.
 [[nodiscard]] nlohmann::ordered_json KeySnapshot(const clsHTDRDD& definition);
 
-/// What differs between two snapshots, without secrets: "gradingDiffers", "questions" and "other", where each
-/// thing has a "before" and an "after". Questions are matched by position. Of one that counts on one side
-/// only its answer is told, and what it is worth where it begins to count.
+/// The differences between two snapshots, without secrets: "gradingDiffers", "questions" and "other"; each
+/// difference has a "before" and an "after". Questions are matched by position. For a question that counts on
+/// one side only, the answer is shown, and its points if it begins to count.
 [[nodiscard]] nlohmann::ordered_json KeyChanges(const nlohmann::ordered_json& before,
                                                 const nlohmann::ordered_json& after);
 

@@ -23,7 +23,7 @@ bool IsFileFailure(const Variant& vError) {
     return std::find(kFileFailures.begin(), kFileFailures.end(), error) != kFileFailures.end();
 }
 
-/// Only a whole line accepts.
+/// Only a complete line can accept.
 bool AcceptedOnTerminal() {
     if (::isatty(STDIN_FILENO) != 1 || ::isatty(STDERR_FILENO) != 1) return false;
     std::fputs("[o]k / [c]ancel (cancel): ", stderr);

@@ -12,7 +12,7 @@
 namespace htdrdd::host {
 namespace {
 
-/// What was read in a region with a decimal comma would lose its places in every form that is written.
+/// Writes start values with ".". With a decimal comma, every written form would lose the decimals.
 void UseDecimalPoint(clsHTDRDDGradeScale& scale) {
     const TextView mark(&CurrentRegion().decimalMark, 1);
     for (std::int32_t l = 1; l <= scale.Count(); ++l) {
@@ -48,7 +48,7 @@ Ref<clsHTDRDD> Definitions::Read(const Input& input, const std::string& otherwis
 bool Definitions::ReadHeader(clsHTDRDD& definition, const std::string& file) {
     const Input input(file);
     complaints_->Forget();
-    // The library reports a file that isn't there; one sentence is enough.
+    // The library reports a missing file, but one sentence is enough.
     if (CurrentFileSystem().FileExists(input.Path()) && definition.LoadHeader(input.Path())) return true;
     RefuseUnread(input, "it is not a header file.");
     return false;
@@ -57,18 +57,18 @@ bool Definitions::ReadHeader(clsHTDRDD& definition, const std::string& file) {
 Ref<clsHTDRDD> Definitions::ReadGenericKey(const std::string& file) {
     auto key = Read(file);
     if (!key || key->ReportType == HTDReportTypeGenericGrade) return key;
-    Refuse(InputName(file), "it is no generic key.");
+    Refuse(InputName(file), "it is not a generic key.");
     return {};
 }
 
 bool Definitions::MergeTextKey(clsHTDRDD& active, const std::string& file) {
     const Input input(file);
     complaints_->Forget();
-    // The library reports an empty file; one sentence is enough.
+    // The library reports an empty file, but one sentence is enough.
     std::error_code error;
     const bool isEmpty = std::filesystem::file_size(ToNativePath(input.Path()), error) == 0;
     if (!isEmpty && active.MergeTextKey(input.Path())) return true;
-    if (!complaints_->Any() || complaints_->Unreadable()) RefuseUnread(input, "it holds no answers.");
+    if (!complaints_->Any() || complaints_->Unreadable()) RefuseUnread(input, "it contains no answers.");
     return false;
 }
 
@@ -89,7 +89,7 @@ template <class Record>
 Ref<Record> Definitions::ReadExchange(const Input& input, const std::string& otherwise) {
     auto record = Make<Record>();
     complaints_->Forget();
-    // Anything but a plain file might be used up by a first try.
+    // Only regular files: a first try might use up any other file.
     const bool isRead = CurrentFileSystem().FileExists(input.Path()) && record->Import(input.Path());
     if (isRead && !complaints_->Any()) {
         UseDecimalPoint(*record);
@@ -125,13 +125,13 @@ void Definitions::RefuseUnread(const Input& input, const std::string& otherwise)
     Refuse(input.Name(), Reason(input.Path(), otherwise));
 }
 
-/// The library is silent on what isn't there and on what doesn't begin like a file of its kind.
+/// The library doesn't report missing files, nor files that don't begin like a file of their kind.
 std::string Definitions::Reason(TextView path, const std::string& otherwise) const {
     if (path.empty() || complaints_->Unreadable()) return "it can't be read.";
     if (complaints_->Any()) return "it is broken.";
     if (CurrentFileSystem().FileExists(path)) return otherwise;
     std::error_code error;
-    if (std::filesystem::exists(ToNativePath(path), error)) return "it is no plain file.";
+    if (std::filesystem::exists(ToNativePath(path), error)) return "it is not a regular file.";
     return error ? "it can't be read." : "it doesn't exist.";
 }
 

@@ -1,4 +1,4 @@
-/// Reading the files that a command is given.
+/// Reads the input files of a command.
 #pragma once
 
 #include "host/files/complaints.h"
@@ -17,37 +17,36 @@ public:
     Definitions();
     Definitions(const Definitions&) = delete;
     Definitions& operator=(const Definitions&) = delete;
-    /// Takes it back.
+    /// Unregisters it.
     ~Definitions();
 
-    /// The definition of a file that was named on the command line. A file that is refused gives an empty
-    /// reference, and one sentence says why.
+    /// Reads a definition from a file of the command line. For a refused file it returns an empty reference
+    /// and prints one sentence with the reason.
     [[nodiscard]] Ref<clsHTDRDD> Read(const std::string& file);
     /// The same for a generic key.
     [[nodiscard]] Ref<clsHTDRDD> ReadGenericKey(const std::string& file);
-    /// Takes the header settings of a header file over, or says why it was refused.
+    /// Loads the header settings of a header file, or says why the file was refused.
     [[nodiscard]] bool ReadHeader(clsHTDRDD& definition, const std::string& file);
-    /// Merges the text key of a file, or says why it was refused. False after a complaint, too.
+    /// Merges the text key of a file, or says why the file was refused. Also returns false after a complaint.
     [[nodiscard]] bool MergeTextKey(clsHTDRDD& active, const std::string& file);
-    /// The text of a file in UTF-8 or UTF-16. Where it is in neither, `otherwise` says why it was refused.
+    /// The text of a file in UTF-8 or UTF-16. If it is in neither, `otherwise` is the reason for the refusal.
     [[nodiscard]] std::optional<Text> ReadText(const std::string& file, const std::string& otherwise);
-    /// The same for definitions that may be something else; `otherwise` says so.
+    /// The same as Read(file), if the file may be something else; `otherwise` is the reason for the refusal.
     [[nodiscard]] Ref<clsHTDRDD> Read(const Input& input, const std::string& otherwise);
-    /// The grade scale or scaled score of an exchange file, start values with a point in every region. A file
-    /// that is none gives an empty reference; without `otherwise` it may still be something else.
+    /// The grade scale or scaled score of an exchange file; start values have a "." in every region. Any
+    /// other file yields an empty reference; it isn't refused if `otherwise` is empty, since it may be
+    /// something else.
     template <class Record>
     [[nodiscard]] Ref<Record> ReadExchange(const Input& input, const std::string& otherwise);
 
-    /// The position of the learning objective that is wanted, by its position or name; without a wish that of
-    /// the whole test. 0, after one sentence, for an unknown one.
+    /// The position of a learning objective, which is given by position or name; by default that of the whole
+    /// test. Returns 0, after one sentence, if it is unknown.
     [[nodiscard]] std::int32_t FindObjective(const clsHTDRDD& definition,
                                              const std::optional<std::string>& wanted);
 
-    /// Says why a file is of no use. `name` is that of an input.
+    /// Says why a file is refused. `name` is that of an input.
     void Refuse(TextView name, const std::string& reason);
-    /// Whether any file was refused.
     [[nodiscard]] bool AnyRefused() const noexcept { return anyRefused_; }
-    /// The host object.
     [[nodiscard]] Complaints& Heard() const { return *complaints_; }
 
 private:

@@ -10,7 +10,7 @@
 namespace htdrdd::host {
 namespace {
 
-/// The name of a temporary file with all of standard input; empty where there is none.
+/// Copies standard input to a temporary file and returns its path; empty if standard input can't be read.
 Text CopyOfStandardInput() {
     std::string bytes;
     std::array<char, 65536> part{};

@@ -1,4 +1,4 @@
-/// The files that a command reads.
+/// The input files of a command.
 #pragma once
 
 #include "htdrdd91/foundation/temporary.h"
@@ -8,16 +8,16 @@
 
 namespace htdrdd::host {
 
-/// What sentences and JSON call a file that was named on the command line: its name, or "standard input".
+/// The name of an input file in messages and JSON: that of the command line, or "standard input".
 [[nodiscard]] Text InputName(const std::string& file);
 
-/// A file to read. "-" is standard input, which is copied into a temporary file, since the library reads
+/// A file to read. "-" is standard input, which is copied to a temporary file, since the library only reads
 /// files.
 class Input {
 public:
     explicit Input(const std::string& file);
 
-    /// Where it can be read; empty where standard input can't be.
+    /// The path of the file or the copy; empty if standard input can't be read.
     [[nodiscard]] const Text& Path() const noexcept { return copy_.Path().empty() ? path_ : copy_.Path(); }
     [[nodiscard]] const Text& Name() const noexcept { return name_; }
 
@@ -27,7 +27,7 @@ private:
     Temporary copy_;
 };
 
-/// Text in UTF-16, little-endian with a byte order mark, or else in UTF-8. Nothing where it is in neither.
+/// Decodes little-endian UTF-16 with a byte order mark, or UTF-8. Returns std::nullopt for other bytes.
 [[nodiscard]] std::optional<Text> DecodedText(std::string_view bytes);
 
 } // namespace htdrdd::host

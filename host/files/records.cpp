@@ -7,13 +7,13 @@
 namespace htdrdd::host {
 namespace {
 
-/// What `walk(const FindingSink&)` finds first; one that can't be brought to its end finds that.
+/// The first finding of `walk(const FindingSink&)`. A failure of the walk is a finding, too.
 template <class Walk>
 std::optional<Finding> Judged(Walk walk) {
     try {
         return FirstFinding(walk);
     } catch (const Failure& failure) {
-        return Finding{0, {}, u"It could not be judged: " + Text(failure.Text()), {}, {}};
+        return Finding{0, {}, u"It could not be checked: " + Text(failure.Text()), {}, {}};
     }
 }
 

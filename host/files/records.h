@@ -1,4 +1,4 @@
-/// What commands do alike with grade scales and with scaled scores.
+/// The shared parts of commands for grade scales and scaled scores.
 #pragma once
 
 #include "host/console/wording.h"
@@ -36,22 +36,22 @@ struct ScaledScores {
     static Text TextsOf(const Record& score) { return score.ToString(u""); }
 };
 
-/// A grade scale or scaled score and where it was found.
+/// A grade scale or scaled score, and its origin.
 template <class Kind>
 struct Found {
-    Ref<typename Kind::Record> record; ///< the reader's own; empty where the file was refused
+    Ref<typename Kind::Record> record; ///< a copy for the caller; empty if the file was refused
     Text file;
     Ref<clsHTDRDD> definition{}; ///< empty for an exchange file
     std::int32_t objective = 1;
 };
 
-/// That of a learning objective of a definition, or that of an exchange file, which has no learning
-/// objectives.
+/// Reads the record of a learning objective in a definition, or the record of an exchange file, which has no
+/// learning objectives.
 template <class Kind>
 [[nodiscard]] Found<Kind> ReadRecord(Definitions& definitions, const std::string& file,
                                      const std::optional<std::string>& objective);
 
-/// The first broken rule. Without a definition a scaled score isn't judged.
+/// The first broken rule. Without a definition a scaled score isn't checked.
 [[nodiscard]] std::optional<Finding> Judge(const clsHTDRDDGradeScale& scale,
                                            const Ref<clsHTDRDD>& definition = {}, std::int32_t objective = 1);
 [[nodiscard]] std::optional<Finding> Judge(const clsHTDRDDScaledScore& score,
@@ -59,7 +59,7 @@ template <class Kind>
 /// "The minimum scale values must be in descending order. (row 2)"
 [[nodiscard]] std::string FindingText(const Finding& finding);
 
-/// Whether a text would come apart in a definition or a library, which set texts apart with these.
+/// Whether a text contains a separator of definitions or libraries, so that it would be split there.
 [[nodiscard]] inline bool ComesApart(TextView text) {
     return text.find_first_of(u"\t\v\r\n") != TextView::npos;
 }

@@ -13,7 +13,7 @@ namespace htdrdd::host {
 bool IsSameFile(const std::string& read, const std::string& written, const char* what) {
     std::error_code error;
     if (!std::filesystem::equivalent(read, written, error)) return false;
-    Complain(Harmless(std::string_view(written)) + " is the " + what + " itself.");
+    Complain(Harmless(std::string_view(written)) + " can't be written: it is the " + what + " to read.");
     return true;
 }
 
@@ -25,7 +25,7 @@ ExitCode SaveFile(const SaveOptions& options, const std::string& form, Complaint
     const bool fileStood = files.FileExists(path);
     const bool backupStood = files.FileExists(backup);
     complaints.Forget();
-    // A save counts an old file that it couldn't replace as written.
+    // A save returns true even if it couldn't replace an old file, but then it reports a failure.
     const bool saved = save(path) && !complaints.Failed();
     const bool backupMade = !backupStood && files.FileExists(backup);
 
@@ -35,15 +35,15 @@ ExitCode SaveFile(const SaveOptions& options, const std::string& form, Complaint
         return ExitCode::Fine;
     }
     if (saved && !options.quiet) Print(Harmless(path) + " was saved as " + form + ".\n");
-    if (backupMade && !options.quiet) Print(Harmless(backup) + " keeps the older file.\n");
+    if (backupMade && !options.quiet) Print("The old file was kept as " + Harmless(backup) + ".\n");
     if (saved) return ExitCode::Fine;
     if (complaints.Declined()) {
-        Complain(Harmless(path) + " was not saved; --yes saves it with its test versions as they are.");
+        Complain(Harmless(path) + " was not saved; use --yes to save it with invalid test versions.");
         return ExitCode::Findings;
     }
     const bool lost = fileStood && !backupMade && !files.FileExists(path);
     Complain(Harmless(path) + " was not saved: it can't be written" +
-             (lost ? ", and what stood there is gone." : "."));
+             (lost ? ", and the old file is lost." : "."));
     return ExitCode::Refused;
 }
 

@@ -1,4 +1,4 @@
-/// Writing the files that a command is told to make.
+/// Writes the output files of a command.
 #pragma once
 
 #include "host/console/exit_code.h"
@@ -14,23 +14,23 @@ struct SaveOptions {
     std::string file{};
     bool plain = false;  ///< as text, not as an archive
     bool yes = false;    ///< questions are answered with yes
-    bool judged = false; ///< the user knows what the test versions are like: nothing is asked or told of them
-    bool quiet = false;  ///< a save that goes well isn't told
-    bool json = false;   ///< it is told as one JSON object
+    bool judged = false; ///< test versions were checked before: no more questions or complaints about them
+    bool quiet = false;  ///< no message after a successful save
+    bool json = false;   ///< the message is a JSON object
 };
 
-/// Whether what a command is told to write is the file that it reads, which is told.
+/// Whether the output file is the input file, with a complaint if so. `what` is the kind of the input file.
 [[nodiscard]] bool IsSameFile(const std::string& read, const std::string& written, const char* what);
 
-/// Runs a save of the library, which gives whether it wrote the file, and prints what was written and whether
-/// a backup was made. If nothing was, one sentence says why.
+/// Runs a save of the library, which returns whether it wrote the file, and prints the names of the written
+/// file and of the backup, if one was made. If nothing was written, one sentence gives the reason.
 [[nodiscard]] ExitCode SaveFile(const SaveOptions& options, const std::string& form, Complaints& complaints,
                                 const std::function<bool(TextView)>& save);
 
-/// Saves a definition in this way.
+/// Saves a definition by SaveFile.
 [[nodiscard]] ExitCode SaveDefinition(clsHTDRDD& definition, const SaveOptions& options,
                                       Complaints& complaints);
-/// Saves its header settings to a header file.
+/// Saves the header settings of a definition by SaveFile.
 [[nodiscard]] ExitCode SaveHeaderFile(clsHTDRDD& definition, const std::string& file, Complaints& complaints);
 
 } // namespace htdrdd::host

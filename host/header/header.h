@@ -1,4 +1,4 @@
-/// htdrdd header: the settings of the report header, in a file of their own.
+/// htdrdd header: exchanges the settings of the report header with header files.
 #pragma once
 
 #include "host/files/saving.h"

@@ -18,7 +18,7 @@ using Json = nlohmann::ordered_json;
 
 template <class Kind>
 std::string NoLibrary() {
-    return std::string("it is no library of ") + Kind::kNoun + "s.";
+    return std::string("it is not a library of ") + Kind::kNoun + "s.";
 }
 
 std::vector<Text> NamesIn(const auto& library) {
@@ -28,12 +28,12 @@ std::vector<Text> NamesIn(const auto& library) {
     return names;
 }
 
-/// The library of a string; empty, after one sentence, where it is refused.
+/// Loads a library from its string. Returns an empty reference, after one sentence, if it is refused.
 template <class Kind>
 Ref<typename Kind::Library> Loaded(Definitions& definitions, const LibraryOptions& options, TextView string) {
     auto library = Make<typename Kind::Library>();
     definitions.Heard().Forget();
-    // A library would take nearly any text for an entry.
+    // Without these checks, a library would accept nearly any text as an entry.
     const bool isForeign = string.find_first_of(u"\r\n") != TextView::npos ||
                            (string.starts_with(u'<') && string.ends_with(u'>'));
     const bool holdsScores = string.find(u"ScaledScoreName=") != TextView::npos;
@@ -43,7 +43,7 @@ Ref<typename Kind::Library> Loaded(Definitions& definitions, const LibraryOption
     return {};
 }
 
-/// Whether a library is what becomes of its string, entry by entry.
+/// Whether saving and loading the library yield the same string and the same entries.
 template <class Kind>
 bool ComesBack(const typename Kind::Library& library, TextView string) {
     const auto again = Make<typename Kind::Library>();
@@ -51,18 +51,18 @@ bool ComesBack(const typename Kind::Library& library, TextView string) {
            again->SaveToString() == string && NamesIn(*again) == NamesIn(library);
 }
 
-/// Says why nothing was changed.
+/// Says why the library wasn't changed.
 ExitCode TurnDown(const LibraryOptions& options, const std::string& why) {
     Complain(Harmless(InputName(options.library)) + " was not changed: " + why);
     return ExitCode::Findings;
 }
 
-/// Changes a library with `edit(library)`, which may put another one in its place, and saves it. Nothing is
-/// written that would lose an entry or a part of one, be it one that isn't meant.
+/// Changes a library with `edit(library)`, which may replace it, and saves it. Refuses to write if any entry,
+/// even an unrelated one, would not survive a reload.
 template <class Kind, class Edit>
 ExitCode EditLibrary(Definitions& definitions, const LibraryOptions& options, bool isMade, Edit edit) {
     if (options.library == "-" && options.out.empty()) {
-        Complain("-o is required where the library is standard input.");
+        Complain("-o is required if the library is standard input.");
         return ExitCode::Usage;
     }
     const auto refuse = [&](const char* reason) {
@@ -72,12 +72,12 @@ ExitCode EditLibrary(Definitions& definitions, const LibraryOptions& options, bo
     const auto string = isMade ? Text() : definitions.ReadText(options.library, NoLibrary<Kind>());
     auto library = string ? Loaded<Kind>(definitions, options, *string) : nullptr;
     if (!library) return ExitCode::Refused;
-    if (!ComesBack<Kind>(*library, *string)) return refuse("one of its entries would be lost or changed.");
+    if (!ComesBack<Kind>(*library, *string)) return refuse("one of its entries would not survive a reload.");
     definitions.Heard().Silent(true);
     if (const ExitCode code = edit(library); code != ExitCode::Fine) return code;
     const Text saved = library->SaveToString();
     if (definitions.Heard().Any() || !ComesBack<Kind>(*library, saved))
-        return refuse("the entry can't be in it.");
+        return refuse("the entry would not survive a reload.");
     definitions.Heard().Silent(false);
     return SaveFile({.file = options.out.empty() ? options.library : options.out, .json = options.json},
                     "a library", definitions.Heard(), [&](TextView path) {
@@ -111,7 +111,8 @@ ExitCode List(const LibraryOptions& options) {
     else if (!table.Empty())
         Print(table.Drawn(Terminal::OfOutput()));
     if (ComesBack<Kind>(*library, *string)) return ExitCode::Fine;
-    Complain(Harmless(InputName(options.library)) + " holds more than that, or holds it in another form.");
+    Complain(Harmless(InputName(options.library)) +
+             " contains more than these entries, or contains them in another form.");
     return ExitCode::Findings;
 }
 
@@ -124,11 +125,11 @@ ExitCode Add(const LibraryOptions& options) {
     name = Trimmed(options.newName ? FromUtf8(*options.newName) : name);
     const bool isMade = options.library != "-" && !std::filesystem::exists(options.library);
     return EditLibrary<Kind>(definitions, options, isMade, [&](const auto& library) {
-        if (name.empty()) return TurnDown(options, "the entry has no name; --name gives it one.");
+        if (name.empty()) return TurnDown(options, "the entry has no name; use --name.");
         if (library->Exists(name))
-            return TurnDown(options, "it has an entry " + Harmless(name) + " already.");
+            return TurnDown(options, "it already has an entry " + Harmless(name) + '.');
         if (ComesApart(Kind::TextsOf(*found.record)))
-            return TurnDown(options, "an entry can't have tabs or line ends in it.");
+            return TurnDown(options, "an entry can't contain tabs or line ends.");
         Text key = name;
         library->Add(key, found.record);
         return ExitCode::Fine;
@@ -154,9 +155,10 @@ ExitCode Rename(const LibraryOptions& options) {
         const Text after(Trimmed(FromUtf8(*options.newName)));
         if (!library->Exists(before)) return TurnDown(options, "it has no entry " + Harmless(before) + '.');
         if (library->Exists(after))
-            return TurnDown(options, "it has an entry " + Harmless(after) + " already.");
-        if (after.empty() || ComesApart(after)) return TurnDown(options, "an entry can't have such a name.");
-        // The key alone isn't saved.
+            return TurnDown(options, "it already has an entry " + Harmless(after) + '.');
+        if (after.empty() || ComesApart(after))
+            return TurnDown(options, "the new name is empty or contains tabs or line ends.");
+        // Renaming only the key would not be saved.
         auto renamed = Make<typename Kind::Library>();
         for (const Text& key : NamesIn(*library)) {
             const auto record = library->Item(key);

@@ -10,7 +10,7 @@
 namespace htdrdd::host {
 namespace {
 
-/// Whether the key could be merged and can be graded with.
+/// Returns whether the key was merged and can be used for grading.
 bool MergeKey(clsHTDRDD& active, const MergeOptions& options, Definitions& definitions) {
     if (!options.generic) return definitions.MergeTextKey(active, options.key);
     const auto key = definitions.ReadGenericKey(options.key);
@@ -41,7 +41,7 @@ ExitCode Merge(const MergeOptions& options) {
         written = saved == ExitCode::Fine;
         if (!written) code = saved;
     } else if (!out.empty()) {
-        Complain(Harmless(out) + " was not written; --force writes it all the same.");
+        Complain(Harmless(out) + " was not written; use --force to write it despite the complaints.");
     }
     if (options.json) {
         using Json = nlohmann::ordered_json;

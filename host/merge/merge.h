@@ -1,4 +1,4 @@
-/// htdrdd merge: an answer key from elsewhere in a definition.
+/// htdrdd merge: merges an answer key into a definition.
 #pragma once
 
 #include "host/files/saving.h"
@@ -8,8 +8,8 @@ namespace htdrdd::host {
 struct MergeOptions {
     std::string active;
     std::string key;
-    bool generic = false; ///< the key is a definition, not a text
-    bool force = false;   ///< what came of a merge is saved in spite of complaints
+    bool generic = false; ///< the key is a definition, not a text key
+    bool force = false;   ///< the result is saved despite complaints
     bool json = false;
     SaveOptions save{.judged = true}; ///< without a file nothing is saved
 };

@@ -51,7 +51,7 @@ std::string LinesOf(const clsHTDRDDScaledScore& score, bool bSecrets, const Term
         terminal);
 }
 
-/// The definition of a command and the learning objective in it; empty where either was refused.
+/// The definition of a command and the learning objective in it; empty if either was refused.
 struct Place {
     Place(Definitions& definitions, const RecordOptions& options)
         : definition(definitions.Read(options.file)) {
@@ -61,12 +61,12 @@ struct Place {
     std::int32_t objective = 0; ///< 0: refused
 };
 
-/// Why a definition can't hold a record; empty where it can.
+/// The reason why a definition can't hold a record; empty if it can.
 template <class Kind>
 std::string WhyNotFiled(const typename Kind::Record& record, const Place& place) {
     if (!Kind::IsDefined(record)) return "it is empty.";
     if (ComesApart(Kind::TextsOf(record))) return "a definition can't hold texts with tabs or line ends.";
-    if constexpr (std::is_same_v<Kind, ScaledScores>) // the invalid ones are left out of a saved definition
+    if constexpr (std::is_same_v<Kind, ScaledScores>) // a saved definition omits invalid ones
         if (const auto finding = Judge(record, place.definition, place.objective))
             return FindingText(*finding);
     return {};
@@ -112,7 +112,8 @@ ExitCode ExportRecord(const RecordOptions& options) {
     if (place.objective == 0) return ExitCode::Refused;
     const auto& record = Kind::Of(*place.definition, place.objective);
     if (!Kind::IsDefined(record)) {
-        definitions.Refuse(place.definition->FileName, std::string("it has no ") + Kind::kNoun + " there.");
+        definitions.Refuse(place.definition->FileName,
+                           std::string("it has no ") + Kind::kNoun + " for this learning objective.");
         return ExitCode::Refused;
     }
     return SaveFile({.file = options.exchange, .json = options.json}, std::string("a ") + Kind::kNoun,
@@ -127,7 +128,7 @@ ExitCode ImportRecord(const RecordOptions& options) {
     if (place.objective == 0) return ExitCode::Refused;
     const Input input(options.exchange);
     const auto record = definitions.ReadExchange<typename Kind::Record>(
-        input, std::string("it is no exchange file of a ") + Kind::kNoun + '.');
+        input, std::string("it is not an exchange file of a ") + Kind::kNoun + '.');
     if (!record) return ExitCode::Refused;
     if (const std::string why = WhyNotFiled<Kind>(*record, place); !why.empty()) {
         definitions.Refuse(input.Name(), why);

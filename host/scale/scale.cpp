@@ -16,15 +16,14 @@ namespace {
 
 constexpr TextView kLineEnd = u"\r\n";
 
-/// Whether a scale can be used; if not, one sentence says so.
+/// Whether a scale can be used; if not, prints one sentence.
 bool Vouch(const clsHTDRDDGradeScale& scale, TextView name) {
     const auto finding = Judge(scale);
-    if (finding)
-        Complain(Harmless(name) + " holds a grade scale that can't be relied on: " + FindingText(*finding));
+    if (finding) Complain(Harmless(name) + " contains an invalid grade scale: " + FindingText(*finding));
     return !finding;
 }
 
-/// The next line of standard input, cut behind what no number is as long as; nothing at the end.
+/// The next line of standard input, cut to a length that no number has; std::nullopt at the end.
 std::optional<std::string> NextLine() {
     constexpr std::size_t kLongest = 1000;
     std::string line;
@@ -55,14 +54,14 @@ ExitCode ClipScale(const ClipOptions& options) {
 ExitCode PasteScale(const ClipOptions& options) {
     if (IsSameFile(options.paste, options.out, "clip")) return ExitCode::Usage;
     Definitions definitions;
-    const auto text = definitions.ReadText(options.paste, "it is no text in UTF-8 or UTF-16.");
+    const auto text = definitions.ReadText(options.paste, "it is not text in UTF-8 or UTF-16.");
     if (!text) return ExitCode::Refused;
     const Text clip = Replaced(Replaced(*text, kLineEnd, u"\n"), u"\n", kLineEnd);
     definitions.Heard().Silent(true);
     const auto scale = Make<clsHTDGradeScaleManager>()->ClipToScale(FromUtf8(options.name), clip);
     definitions.Heard().Silent(false);
     if (!scale || !GradeScales::IsDefined(*scale)) {
-        definitions.Refuse(InputName(options.paste), "it is empty, or a line in it is.");
+        definitions.Refuse(InputName(options.paste), "it is empty or contains an empty line.");
         return ExitCode::Refused;
     }
     const bool isFine = Vouch(*scale, InputName(options.paste));
@@ -74,14 +73,14 @@ ExitCode PasteScale(const ClipOptions& options) {
 ExitCode GradePercents(const GradeOptions& options) {
     for (const std::string& percent : options.percents) {
         if (PercentOf(percent)) continue;
-        Complain(Harmless(std::string_view(percent)) + " is no percentage.");
+        Complain(Harmless(std::string_view(percent)) + " is not a percentage.");
         return ExitCode::Usage;
     }
     Definitions definitions;
     const auto found = ReadRecord<GradeScales>(definitions, options.file, options.objective);
     if (!found.record) return ExitCode::Refused;
     if (!GradeScales::IsDefined(*found.record)) {
-        definitions.Refuse(found.file, "it has no grade scale there.");
+        definitions.Refuse(found.file, "its grade scale is missing or empty.");
         return ExitCode::Refused;
     }
     bool isFine = Vouch(*found.record, found.file);
@@ -93,7 +92,7 @@ ExitCode GradePercents(const GradeOptions& options) {
     for (const std::string& text : options.percents) grade(text, *PercentOf(text));
     if (!options.percents.empty()) return isFine ? ExitCode::Fine : ExitCode::Findings;
 
-    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ); // whoever asks one by one waits for each
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ); // a program that sends line by line waits for each result
     std::uint64_t number = 0;
     while (const auto line = NextLine()) {
         ++number;
@@ -101,7 +100,7 @@ ExitCode GradePercents(const GradeOptions& options) {
             grade(*line, *percent);
             continue;
         }
-        Complain("line " + std::to_string(number) + " is no percentage" +
+        Complain("line " + std::to_string(number) + " is not a percentage" +
                  (line->empty() ? "." : ": " + Fitted(Harmless(std::string_view(*line)), 60)));
         isFine = false;
     }

@@ -1,4 +1,4 @@
-/// htdrdd scale: what only grade scales have, their clip form and the grades of percentages.
+/// htdrdd scale: the commands that only grade scales have, for clips and the grades of percentages.
 #pragma once
 
 #include "host/console/exit_code.h"
@@ -12,9 +12,9 @@ namespace htdrdd::host {
 
 struct ClipOptions {
     std::string file;  ///< a definition or an exchange file
-    std::string paste; ///< a clip; then an exchange file is written instead
+    std::string paste; ///< a clip; if set, it is written to an exchange file
     std::string out;
-    std::string name; ///< of the scale that is pasted
+    std::string name; ///< name of the pasted scale
     std::optional<std::string> objective;
     bool json = false;
 };
@@ -27,9 +27,9 @@ struct GradeOptions {
     bool json = false;
 };
 
-/// Prints the clip form of a scale as it is, or on a terminal as it may be shown.
+/// Prints the clip form of a scale, on a terminal made harmless.
 [[nodiscard]] ExitCode ClipScale(const ClipOptions& options);
-/// Makes an exchange file of a clip.
+/// Writes an exchange file from a clip.
 [[nodiscard]] ExitCode PasteScale(const ClipOptions& options);
 /// Prints the grade of each percentage as soon as it is read.
 [[nodiscard]] ExitCode GradePercents(const GradeOptions& options);

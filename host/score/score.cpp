@@ -22,7 +22,7 @@ ExitCode PrintScore(const char* name, Calculation calculation, std::optional<dou
                     const ScoreOptions& options) {
     const auto possible = NumberOf(options.possible);
     if (!first || !possible) {
-        Complain(Harmless(std::string_view(first ? options.possible : options.first)) + " is no number.");
+        Complain(Harmless(std::string_view(first ? options.possible : options.first)) + " is not a number.");
         return ExitCode::Usage;
     }
     const Definitions definitions;

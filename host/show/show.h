@@ -1,4 +1,4 @@
-/// htdrdd show: what definition files hold.
+/// htdrdd show: shows the content of definition files.
 #pragma once
 
 #include "host/console/exit_code.h"
@@ -14,7 +14,7 @@ struct ShowOptions {
     bool secrets = false; ///< users, passwords and connection strings aren't masked
 };
 
-/// Shows each file that can be read and goes on behind one that is refused.
+/// Shows each file that can be read and continues after a refused file.
 [[nodiscard]] ExitCode Show(const ShowOptions& options);
 
 } // namespace htdrdd::host

@@ -61,7 +61,7 @@ Json JsonOf(clsHTDRDDSubtest& subtest, bool bSecrets) {
 
 Json JsonOf(const Dictionary& header) {
     Json::object_t items;
-    // Not by name: files may hold any number of keys, and each lookup walks them all.
+    // Appended without a lookup: files may hold any number of keys, and each lookup by name walks them all.
     for (const auto& entry : header.Entries())
         items.emplace_back(ToUtf8(entry.key.ToText()), JsonOf(entry.item.ToText()));
     return items;

@@ -7,8 +7,8 @@
 
 namespace htdrdd::host {
 
-/// One object whose members are named as the properties, pretty printed, with a line end. Users, passwords
-/// and connection strings that aren't empty are masked unless bSecrets is set.
+/// One pretty-printed object with a line end, whose members have the names of the properties. Users,
+/// passwords and connection strings that aren't empty are masked unless bSecrets is set.
 [[nodiscard]] std::string DefinitionAsJson(const clsHTDRDD& definition, bool bSecrets);
 
 } // namespace htdrdd::host

@@ -11,10 +11,10 @@
 namespace htdrdd::host {
 namespace {
 
-/// Things that several learning objectives share, each listed once under a label of its own.
+/// Texts that several learning objectives share; each is listed once, under its own label.
 class Shared {
 public:
-    /// The label of a thing; empty for one without content.
+    /// Lists a new text and returns the label of the text; empty if there is no text.
     std::string Label(const std::string& name, const std::string& content) {
         if (content.empty()) return {};
         const auto [entry, isNew] = labels_.try_emplace(name + '\n' + content);

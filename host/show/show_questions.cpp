@@ -41,8 +41,8 @@ std::string Answers(const clsHTDRDDQuestion& question) {
     return toAbove ? "to " + NumberText(question.MaxValue) : "";
 }
 
-/// The correct answer of each key. Those of a subjective question are its points, which have a column of
-/// their own.
+/// The correct answer of each key. Empty for a subjective question, whose correct answers are its points,
+/// which have their own column.
 std::string Correct(const clsHTDRDDQuestion& question) {
     return question.SubjectiveField ? "" : Harmless(question.CorrectAnswers->AsString(u" / "));
 }

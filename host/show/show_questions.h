@@ -1,11 +1,11 @@
-/// The questions of a definition as a person reads them.
+/// The questions of a definition, as text for people.
 #pragma once
 
 #include "host/show/show_objectives.h"
 
 namespace htdrdd::host {
 
-/// A table of the questions; empty without any.
+/// A table of the questions; empty if there are none.
 [[nodiscard]] std::string QuestionsText(const clsHTDRDD& definition, const Memberships& memberships,
                                         const Terminal& terminal);
 

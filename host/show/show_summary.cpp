@@ -26,7 +26,7 @@ std::string QuestionCounts(const clsHTDRDDQuestions& questions) {
     return text;
 }
 
-/// "2 standard versions (A, B), told by question 2, Test form"
+/// "2 standard versions (A, B), identified by question 2, Test form"
 std::string VersionsLine(const clsHTDRDD& definition) {
     const clsHTDRDDVersions& versions = *definition.Versions;
     std::string text = VersionsText(versions);

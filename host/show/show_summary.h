@@ -1,4 +1,4 @@
-/// A definition as a person reads it.
+/// A definition, as text for people.
 #pragma once
 
 #include "host/console/terminal.h"
@@ -8,7 +8,7 @@
 
 namespace htdrdd::host {
 
-/// What the definition is, its learning objectives with their scales, and a table of its questions.
+/// The main facts of a definition, its learning objectives with their scales, and a table of its questions.
 [[nodiscard]] std::string Summary(const clsHTDRDD& definition, const Terminal& terminal);
 
 } // namespace htdrdd::host

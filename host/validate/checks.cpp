@@ -28,7 +28,7 @@ public:
         try {
             walk(FindingSink(tell));
         } catch (const Failure& failure) {
-            tell({0, {}, u"could not be judged: " + Text(failure.Text()), {}, {}});
+            tell({0, {}, u"could not be checked: " + Text(failure.Text()), {}, {}});
         }
         report_.End();
     }
@@ -40,7 +40,7 @@ private:
     Report& report_;
 };
 
-/// The library has no words for this rule.
+/// Adds a caption and a message, since the library has none for this rule.
 Finding InWords(Finding finding, HTDReportType type) {
     finding.sCaption = u"No Counted Question";
     finding.sMessage = u"No question of this learning objective counts for this type of report: none is ";
@@ -79,7 +79,7 @@ void CheckScales(const clsHTDRDD& rdd, Runner& run) {
     };
     check(*rdd.GradeScale, Owner::Definition);
     if (!Same(*rdd.SubtestGradeScale, *rdd.GradeScale)) check(*rdd.SubtestGradeScale, Owner::Objectives);
-    const clsHTDRDDGradeScale* judged = nullptr; // what several learning objectives may share
+    const clsHTDRDDGradeScale* judged = nullptr; // several learning objectives may share one
     for (std::int32_t l = 1; l <= rdd.Subtests->Count(); ++l) {
         const auto subtest = rdd.Subtests->Item(l);
         const clsHTDRDDGradeScale& own = subtest->GradeScale.Peek();
@@ -100,7 +100,7 @@ void CheckScores(const Ref<clsHTDRDD>& definition, Runner& run) {
     };
     check(*definition->ScaledScore, Owner::Definition);
     check(*definition->SubtestScaledScore, Owner::Objectives);
-    const clsHTDRDDScaledScore* judged = nullptr; // what several learning objectives may share
+    const clsHTDRDDScaledScore* judged = nullptr; // several learning objectives may share one
     for (std::int32_t l = 1; l <= definition->Subtests->Count(); ++l) {
         const auto subtest = definition->Subtests->Item(l);
         const clsHTDRDDScaledScore& own = subtest->ScaledScore.Peek();

@@ -1,4 +1,4 @@
-/// The checks that a definition goes through.
+/// The checks of a definition.
 #pragma once
 
 #include "htdrdd91/foundation/findings.h"
@@ -8,21 +8,21 @@
 
 namespace htdrdd::host {
 
-/// Whose a scale or a scaled score is.
+/// The owner of a grade scale or a scaled score.
 enum class Owner { None, Definition, Objectives, Objective };
 
 struct Check {
-    const char* id = nullptr; ///< as scripts know it
+    const char* id = nullptr; ///< for scripts
     const char* name = nullptr;
     Owner owner = Owner::None;
     std::int32_t objective = 0; ///< position of the learning objective that is the owner
 };
 
-/// Takes what checks find, while they run.
+/// Receives the findings of the checks while they run.
 class Report {
 public:
     virtual void Begin(const Check& check) = 0;
-    /// A check that can't be brought to its end gives a last finding, which has neither rule nor caption.
+    /// A check that fails ends with a finding without a rule and a caption.
     virtual void Find(const Finding& finding) = 0;
     virtual void End() = 0;
 
@@ -30,17 +30,17 @@ protected:
     ~Report() = default;
 };
 
-/// Runs the checks that fit the definition. Each ends with its first finding unless bAll is set. Whether none
-/// found anything.
+/// Runs the checks that apply to the definition. Each check ends with its first finding unless bAll is set.
+/// Returns whether there are no findings.
 [[nodiscard]] bool RunChecks(const Ref<clsHTDRDD>& definition, bool bAll, Report& report);
 
-/// One part of where a rule is broken.
+/// One part of the place of an offender.
 struct Place {
-    const char* id; ///< as scripts know it
+    const char* id; ///< for scripts
     const char* noun;
     std::int32_t lPosition;
-    Text name;           ///< perhaps empty
-    bool isOnly = false; ///< there are no others that it could be
+    Text name;           ///< may be empty
+    bool isOnly = false; ///< the only one of its kind
 };
 
 [[nodiscard]] std::vector<Place> PlacesOf(const clsHTDRDD& definition, const Offender& offender);

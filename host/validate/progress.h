@@ -1,4 +1,4 @@
-/// How far a command has come.
+/// The progress of a command.
 #pragma once
 
 #include <chrono>
@@ -6,17 +6,17 @@
 
 namespace htdrdd::host {
 
-/// A bar on standard error, if that is a terminal and there are several files that take longer than a moment.
-/// It stands until anything else is written.
+/// A progress bar on standard error, if that is a terminal and there are several files that take longer than
+/// a moment. The next output erases it.
 class Progress {
 public:
     explicit Progress(std::size_t files);
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
-    /// Erases it.
+    /// Erases the bar.
     ~Progress();
 
-    /// Before each file, with the number of those done.
+    /// Shows the bar. Call it before each file with the number of files done.
     void Show(std::size_t done) const;
 
 private:

@@ -1,4 +1,4 @@
-/// htdrdd validate: whether definitions can be trusted.
+/// htdrdd validate: checks definitions against the rules.
 #pragma once
 
 #include "host/console/exit_code.h"
@@ -14,7 +14,7 @@ struct ValidateOptions {
     bool json = false;
 };
 
-/// Judges each file that can be read and goes on behind one that is refused.
+/// Checks each file that can be read and continues after a refused file.
 [[nodiscard]] ExitCode Validate(const ValidateOptions& options);
 
 } // namespace htdrdd::host

@@ -5,8 +5,8 @@
 
 namespace htdrdd::host {
 
-/// Runs the checks and prints one object, a line for each finding as soon as it is made. Whether none found
-/// anything.
+/// Runs the checks and prints one object, with a line for each finding as soon as it is found. Returns
+/// whether there are no findings.
 [[nodiscard]] bool ValidateAsJson(const Ref<clsHTDRDD>& definition, bool bAll);
 
 } // namespace htdrdd::host

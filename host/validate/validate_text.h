@@ -1,4 +1,4 @@
-/// The checks of a definition as a person reads them.
+/// The checks of a definition, as text for people.
 #pragma once
 
 #include "host/console/terminal.h"
@@ -6,8 +6,8 @@
 
 namespace htdrdd::host {
 
-/// Runs the checks and prints the file's name, a line for each check and what it finds. Whether none found
-/// anything.
+/// Runs the checks and prints the file's name, a line for each check, and its findings. Returns whether there
+/// are no findings.
 [[nodiscard]] bool ValidateAsText(const Ref<clsHTDRDD>& definition, bool bAll, const Terminal& terminal);
 
 } // namespace htdrdd::host

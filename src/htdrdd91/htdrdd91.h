@@ -1,5 +1,5 @@
-/// All that a C++ host needs: the document and everything it owns, the libraries of scales and scaled scores,
-/// the base class of host objects, the region, and the walks over the rules for hosts that want more than the
+/// Everything that a C++ host needs: the document and its parts, the libraries of scales and scaled scores,
+/// the base class of host objects, the region, and the walks over the rules for hosts that need more than the
 /// first finding.
 #pragma once
 

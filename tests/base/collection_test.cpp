@@ -18,7 +18,7 @@ TEST(CollectionTest, LooksAtThePlaceBeforeTheKey) {
     EXPECT_EQ(FailureOf([&] { return list.Item(-1); }), 9);
 }
 
-/// Long lists look keys up in another way than short ones; a plain list tells what is right.
+/// Long lists find keys by another method than short ones; a plain list holds the expected result.
 TEST(CollectionTest, AgreesWithAPlainListWhateverItsLength) {
     std::vector<std::pair<Text, std::optional<Text>>> plain; // items and keys
     Collection<Text> list;

@@ -17,7 +17,7 @@ TEST(Numbers, LeadingOnesStopWhereTheyCannotGoOn) {
     Check({u"\u00A05 -> 0", u"\u0663 -> 0"}, read);
 }
 
-/// What is read where the decimal mark is a point, and where it is a comma.
+/// The number read with a point and with a comma as the decimal mark.
 TEST(Numbers, RegionalOnesGoByTheRegion) {
     CheckWords("regional_numbers", [](const Fields& row) {
         return InBothRegions([&] { return Outcome([&] { return RegionalNumber(row[0]); }); });
@@ -76,7 +76,7 @@ TEST(Texts, AreTrimmedOfSpacesAndFallApart) {
     EXPECT_EQ(Replaced(u"aXaXa", u"X", u"XX") + Replaced(u"aaa", u"aa", u"b"), u"aXXaXXaba");
 }
 
-/// Two texts, whether they are the same without regard to case, and whether in upper case.
+/// Two texts: whether they are equal without regard to case, and whether they are equal in upper case.
 TEST(Texts, CompareUnitByUnitInNoLanguage) {
     Check({u"Straße -> STRASSE -> no no", u"ß -> ẞ -> yes no", u"ÄÖÜ -> äöü -> yes yes", u"İ -> i -> no no",
            u"ı -> I -> no yes", u"ı -> i -> no yes", u"ſ -> s -> yes yes", u"\u212A -> k -> yes no",

@@ -1,4 +1,4 @@
-"""A host in another language: the component as Python sees it, by name."""
+"""A host in another language: Python calls the component by name."""
 
 import gc
 import re
@@ -18,7 +18,7 @@ CAN_UNLOAD, IN_USE, NOT_AVAILABLE = 0, 1, 0x80040111
 
 
 def refused(call, *arguments):
-    """Number and text of the failure that a call lets pass."""
+    """The number and text of the failure that a call raises; else its result."""
     try:
         return call(*arguments)
     except ComponentError as failure:

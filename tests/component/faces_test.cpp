@@ -1,4 +1,4 @@
-// What Python hosts can't see of the component: kinds of arguments, classes that they don't reach, memory.
+// Parts that Python hosts can't test: kinds of arguments, classes that they can't reach, memory.
 #include "htdrdd91/base/array.h"
 #include "htdrdd91/component/HTDRdd91.h"
 #include "htdrdd91/component/entry/class_factory.h"
@@ -28,16 +28,16 @@ VARIANT By(VARTYPE kind, void* variable) {
     return value;
 }
 
-/// An outside host object. It keeps the kinds of what it gets, and fails with what it is told to.
+/// An outside host object. Records the kinds of its arguments, and returns `result` with `failure`.
 class Outsider final : public OutsideObject {
 public:
     HRESULT result = S_OK;
     EXCEPINFO failure{};
     std::string kinds;
     std::function<void(DISPPARAMS&)> whenCalled;
-    std::function<void()> whenAsked; ///< what interfaces it has
+    std::function<void()> whenAsked; ///< called by QueryInterface
     std::function<void()> whenReleased;
-    bool saysYes = false; ///< to every interface
+    bool saysYes = false; ///< claims every interface
 
     HRESULT QueryInterface(REFIID riid, void** ppvObject) override {
         if (whenAsked) whenAsked();
@@ -69,7 +69,7 @@ public:
 
 class Component : public Session {
 protected:
-    /// Calls a member by name with arguments from the first to the last.
+    /// Calls a member by name; the arguments are in their natural order.
     HRESULT Call(Object& object, Text name, WORD flags, std::vector<VARIANTARG> arguments,
                  VARIANT* result = nullptr, EXCEPINFO* told = nullptr) {
         std::reverse(arguments.begin(), arguments.end());
@@ -165,7 +165,7 @@ TEST_F(Component, CallsThatDontFitAreRefused) {
     EXPECT_EQ(Call(*sequence, u"Item", DISPATCH_PROPERTYPUT, {large, nine}), DISP_E_OVERFLOW);
     EXPECT_EQ(refused, 1U) << "counted from the last argument";
 
-    // What a routine would have failed with itself, it reports: its own failures don't reach the host.
+    // Routines report failures, also those caused by an argument, and the caller sees success.
     OwnVariant result;
     EXPECT_EQ(Call(*rdd->Questions, u"Remove", DISPATCH_METHOD, {nine}), S_OK);
     VARIANT file{};
@@ -212,7 +212,7 @@ TEST_F(Component, MembersThemselvesRefuseValuesOfAnyKind) {
     }
     EXPECT_EQ(memberships->Count(), 0);
 
-    // A type that is given only governs: the variable stays as it is.
+    // ValidateVersions obeys a type that is passed in, and leaves the variable unchanged.
     unsigned char type = HTDVersionTypeNone;
     EXPECT_EQ(Call(*rdd, u"ValidateVersions", DISPATCH_METHOD,
                    {OwnVariant(Variant(false)).Get(), OwnVariant(Variant()).Get(), By(VT_UI1, &type)}),
@@ -235,14 +235,14 @@ TEST_F(Component, ObjectsMayBeReleasedWhileOthersAreAskedWhatTheyAre) {
     const auto container = Com<IConnectionPointContainer>::Of(&FaceOf(*document));
     IConnectionPoint* found = nullptr;
     ASSERT_EQ(container->FindConnectionPoint(DIID___clsHTDRDD, &found), S_OK);
-    found->Release(); // it lives as long as the document
+    found->Release(); // the document owns it
     DWORD cookie = 0;
     outsider.whenAsked = nullptr;
     EXPECT_EQ(found->Advise(&outsider, &cookie), S_OK);
     EXPECT_EQ(found->Unadvise(cookie), S_OK);
     EXPECT_EQ(found->Unadvise(cookie), CONNECT_E_NOCONNECTION);
 
-    // An argument that is asked may change another one's variable.
+    // QueryInterface on one argument may change the variable of another.
     BSTR key = NewBstr(u"key");
     outsider.whenAsked = [&] { SysFreeString(std::exchange(key, NewBstr(u"other"))); };
     EXPECT_EQ(Call(*document->Questions, u"Add", DISPATCH_METHOD, {object, By(VT_BSTR, &key)}),
@@ -250,7 +250,7 @@ TEST_F(Component, ObjectsMayBeReleasedWhileOthersAreAskedWhatTheyAre) {
     outsider.whenAsked = nullptr;
     SysFreeString(key);
 
-    // The end of what a header holds may look into the header.
+    // An object that the header releases may read the header.
     const auto header = document->Header;
     header->Item(u"host", ObjectFrom(&outsider));
     outsider.whenReleased = [&] { EXPECT_LE(header->Items().Items().size(), 32U); };
@@ -382,7 +382,7 @@ TEST_F(Component, TheManifestTellsTheClasses) {
     EXPECT_EQ(WriteManifest(), ToHresult(0x800A004C)) << "path not found";
 }
 
-/// The list of a class's members has the properties that hosts see, in their order.
+/// The list of a class's members has the properties that hosts see, in the same order.
 template <class Class>
 void CheckList(TextView name) {
     std::string listed;

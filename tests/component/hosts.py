@@ -1,4 +1,4 @@
-"""What the hosts of these tests share: the component, objects of it, and the listing of its interfaces."""
+"""Shared by the host tests: the component, objects of it, and the listing of its interfaces."""
 
 import collections
 import os
@@ -82,10 +82,10 @@ REACHED = {"clsHTDRDDQuestions": lambda: create("clsHTDRDD").Questions,
 
 
 def fresh(name):
-    """A new object of a class; None if no member of another one returns it."""
+    """A new object of a class; None if no member of another class returns one."""
     return create(name) if CLASSES[name].is_creatable else REACHED[name]() if name in REACHED else None
 
 
 def face(made, name):
-    """An object by the interface that its slots are counted in."""
+    """The interface of an object that has the listed slots."""
     return made._query(htdrdd91.guid(CLASSES[name].interface))

@@ -1,4 +1,4 @@
-"""The interface list is read as a whole or refused, with the line and the reason."""
+"""The interface list is read completely or refused with the line and the reason."""
 
 import os
 import sys
@@ -13,7 +13,7 @@ with open(interface_list.__file__.replace("interface_list.py", "HTDRdd91.idl"), 
 
 class List(unittest.TestCase):
     def refused(self, old, new):
-        """The reason why the list is refused if a text in it is another, and the text of the line that is told."""
+        """The reason for refusing the list after a text is replaced, and the text of the reported line."""
         self.assertIn(old, LIST)
         text = LIST.replace(old, new, 1)
         with self.assertRaises(interface_list.ListError) as raised:

@@ -16,11 +16,11 @@ KINDS = {"BSTR": BSTR, "long": I4, "short": I2, "double": R8, "VARIANT_BOOL": BO
 
 
 def kind_of(told):
-    return KINDS.get(told, DISPATCH if told.endswith("*") else I4)  # else an enumeration
+    return KINDS.get(told, DISPATCH if told.endswith("*") else I4)  # an enumeration
 
 
 def call(slots, member, arguments=()):
-    """The result of a slot, or a list of it and of what the references hold then."""
+    """The result of a slot; if there are references, a list of the result and their new values."""
     told = [kind for kind, _ in member.parameters] + ([member.result + "&"] if member.result else [])
     types, passed, cells, references = [], [], [], []
     try:
@@ -121,7 +121,7 @@ class Slots(unittest.TestCase):
 
 
 def is_of(made, name):
-    """Whether an object is one of a class."""
+    """Whether an object belongs to a class."""
     try:
         return bool(face(made, name))
     except htdrdd91.ComponentError:

@@ -7,7 +7,7 @@ namespace {
 
 class Encodings : public Session {
 protected:
-    /// Packs files and looks for the mark in the archive.
+    /// Packs files and tests the archive for the byte order mark.
     bool IsUnicode(const std::map<Text, std::string>& members, TextView password = u"secret") {
         std::vector<Variant> names;
         for (const auto& [name, content] : members) {

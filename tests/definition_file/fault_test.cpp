@@ -9,13 +9,13 @@ namespace {
 
 constexpr TextView kTarget = u"/exam.rdd";
 
-/// Lets every file operation fail, one at a time, and looks at what is left.
+/// Makes every file operation fail, one at a time, and checks the files that remain.
 class Faults : public Session {
 protected:
     Faults() {
         files.files[u"/full.rdd"] = Unicode(FromUtf8(kFullDefinition));
         EXPECT_TRUE(rdd->Read(u"/full.rdd"));
-        rdd->Versions->Question = 0; // there is nothing to ask
+        rdd->Versions->Question = 0; // so that Save asks nothing
         EXPECT_TRUE(rdd->Save(u"/text.rdd") && rdd->Read(u"/text.rdd"));
         told_ = Told(*rdd);
         EXPECT_TRUE(rdd->Save(u"/text.rdd", false) && rdd->Save(u"/archive.rdd"));
@@ -24,8 +24,8 @@ protected:
         files.files.clear();
     }
 
-    /// Runs `act`, which gives whether it succeeded, with the n-th operation failing, for n = 1, 2, 3, ...
-    /// until there is none. `check` gets the result.
+    /// Runs `act` with the n-th operation failing, for n = 1, 2, 3, ... until no operation fails. `act`
+    /// returns whether it succeeded, and `check` gets this result.
     template <class Act, class Check>
     void Sweep(const std::string& old, Act act, Check check) {
         for (int n = 1; n < 1000; ++n) {
@@ -55,17 +55,15 @@ protected:
         ADD_FAILURE() << "it never ends";
     }
 
-    /// The number of files in the temporary folder.
     std::ptrdiff_t Temporaries() const {
         return std::count_if(files.files.begin(), files.files.end(),
                              [](const auto& file) { return file.first.starts_with(u"/tmp/"); });
     }
-    /// Whether any file holds these bytes.
     bool IsKept(const std::string& bytes) const {
         return std::any_of(files.files.begin(), files.files.end(),
                            [&](const auto& file) { return file.second == bytes; });
     }
-    /// Whether a definition in a file is the one that all of this is about.
+    /// Whether a file holds the definition of these tests.
     bool IsWhole(TextView file) {
         const auto other = Make<clsHTDRDD>();
         return other->Read(file) && Told(*other) == told_;

@@ -21,7 +21,7 @@ protected:
                              .append(lines)));
         return rdd->Questions->Item(1);
     }
-    /// Reads [Report] with a few keys, and something behind it.
+    /// Reads [Report] with a few keys, followed by another line.
     bool Report(TextView keys) { return Read(Text(u"[Report]\n").append(keys).append(u"\n\nend\n")); }
 };
 
@@ -39,7 +39,7 @@ TEST_F(DefinitionReader, ReadsASingleByteFileOfTheOlderForm) {
     EXPECT_EQ(rdd->Questions->Item(2)->SubjectivePoints, 0);
 }
 
-/// A definition, what is heard, and what stands then.
+/// A definition, the complaint, and the resulting state.
 TEST_F(DefinitionReader, RefusesWhatIsBroken) {
     CheckWords("broken_definitions", [&](const Fields& row) {
         EXPECT_FALSE(Read(row[0])) << ToUtf8(row[0]);
@@ -72,8 +72,8 @@ TEST_F(DefinitionReader, LeavesAMissingFileAndClearsForAnyOther) {
 }
 
 TEST_F(DefinitionReader, FollowsTheLinesFromSectionToSection) {
-    // Names and keys in any case, also by letters whose upper case is a plain one; sections without a blank
-    // line between; unknown sections, stray lines and lone section ends are passed over.
+    // Names and keys in any case, also with letters whose upper case is an ASCII letter; sections without a
+    // blank line between them. Unknown sections, stray lines and lone section ends are skipped.
     EXPECT_TRUE(
         Read(u"  [report]  \nnumque\u017Ft\u0131ons=3\nNumSubtests=1\n[SUBTEST]\nSubtestName=One\nno pair\n"
              u"[Else]\nQuestionName=x\nstray\n[Question] \n[Question]x\nQuestionName=no\n\n[question]\n"
@@ -89,7 +89,7 @@ TEST_F(DefinitionReader, FollowsTheLinesFromSectionToSection) {
     EXPECT_EQ(rdd->Subtests->Item(1)->GradeScale->Count(), 0) << "no number of rows was announced";
 }
 
-// Beyond what round trips show.
+// Repairs that the round trips don't cover.
 TEST_F(DefinitionReader, RepairsQuestions) {
     const auto q =
         Question(u"QuestionText=a\rc\nAnswerValues=A\tB\t\nAnswerValues=C\nNAValue=1.5\nMultipleText=a\rb\n"
@@ -106,7 +106,7 @@ TEST_F(DefinitionReader, RepairsQuestions) {
     EXPECT_EQ(Question(u"SubjectiveField=-1\nCorrectAnswer=-5\n")->SubjectivePoints, 0);
 }
 
-/// What is read, and the membership of the two learning objectives as "include*weight".
+/// A line, and the resulting memberships in the two learning objectives, as "include*weight".
 TEST_F(DefinitionReader, ReadsMemberships) {
     Check({u"QuestionName=no key -> out*1 out*1 ", u"SubtestNumber= -> in*1 out*1 ",
            u"SubtestNumber=2,.5,9 -> in*1 in*.5 ", u"SubtestNumber=2\t3,1\t-1,4\t,7 -> in*1 in*1 ",
@@ -137,10 +137,10 @@ TEST_F(DefinitionReader, LetsTheHostReplaceWhatIsBeingRead) {
         rdd->ScaledScore = Make<clsHTDRDDScaledScore>();
         rdd->Subtests = Make<clsHTDRDDSubtests>();
     };
-    EXPECT_FALSE(Read(text)); // the learning objective went to the list that the host took away
+    EXPECT_FALSE(Read(text)); // the reader filled the list that the host replaced
     EXPECT_EQ(Heard().size(), 4U);
 
-    // The last reference goes in AfterRead, and then while Clear reports.
+    // The last reference is released in AfterRead, then during a report of Clear.
     host->whenHeard = nullptr;
     rdd->AfterRead.Connect([&] { rdd = Make<clsHTDRDD>(); });
     EXPECT_TRUE(Read(u""));
@@ -161,7 +161,7 @@ TEST_F(DefinitionReader, CopiesASharedScaleForEachObjective) {
     rdd->SubtestGradeScale->Item(1)->Grade = u"changed";
     list.Item(2)->GradeScale->Item(1)->Grade = u"changed";
     EXPECT_EQ(list.Item(1)->GradeScale->Item(1)->Grade + list.Item(3)->GradeScale->Item(1)->Grade, u"PP");
-    list.Item(3)->GradeScale = nullptr; // never reads as empty
+    list.Item(3)->GradeScale = nullptr; // reads as an empty scale
     EXPECT_EQ(list.Item(3)->GradeScale->Count(), 0);
 }
 
@@ -173,10 +173,10 @@ TEST_F(DefinitionReader, AnnouncedCountsCostNothing) {
     EXPECT_TRUE(rdd->Questions->Item(1)->Subtests->Includes(32767));
 }
 
-// This is meant: a generic key must not hold [Versions], and the reader never ends on one.
+// This is meant: a generic key must not hold [Versions]. The reader never finishes if it meets one.
 TEST_F(DefinitionReader, NeverEndsOnVersionsInAGenericKey) {
     EXPECT_TRUE(Read(u"[Report]\nType=3\n\n[Question]\n[Versions]") ||
-                Heard().size() == 1); // on the last line it does
+                Heard().size() == 1); // except on the last line
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {

@@ -13,7 +13,7 @@ protected:
             names.append(rdd->Subtests->Item(l)->ScaledScore->ScaledScoreName).append(u"|");
         return names;
     }
-    /// A scaled score that can be used, if the criterion can be.
+    /// A scaled score that is usable if the criterion is.
     static Text Score(TextView name, TextView criterion = u"1") {
         return Text(u"ScaledScoreName=")
                    .append(name)

@@ -21,7 +21,7 @@ auto ListsOf(clsHTDRDDQuestion& q) {
                       &q.CorrectAnswerPoints};
 }
 
-/// All that a definition holds, with the items of lists counted.
+/// The whole content of a definition, with the number of items of each list.
 Text All(const clsHTDRDD& rdd) {
     test::Telling all;
     all.Tell(rdd);
@@ -32,14 +32,14 @@ Text All(const clsHTDRDD& rdd) {
     return all.told;
 }
 
-/// Where two texts first differ, with what leads there; empty where they don't.
+/// The first difference of two texts, with the text before it; empty if they are equal.
 std::string Difference(TextView a, TextView b) {
     const auto place = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
     const auto start = static_cast<std::size_t>(std::max<std::ptrdiff_t>(place - 60, 0));
     return a == b ? "" : ToUtf8(a.substr(start, 90)) + "\n and " + ToUtf8(b.substr(start, 90));
 }
 
-/// What a save changes in the definition that it saves: the overall objective has the say.
+/// Changes a definition as saving does: copies the overall objective's scale and score to the document.
 void TakeOverOverall(clsHTDRDD& rdd) {
     const auto overall = rdd.Subtests->Item(1);
     if (!overall) return;
@@ -47,8 +47,8 @@ void TakeOverOverall(clsHTDRDD& rdd) {
     if (overall->ScaledScore->IsValid(Ref(&rdd), false)) rdd.ScaledScore = overall->ScaledScore->Copy();
 }
 
-/// Makes of a definition that was saved what is read again, loss by loss. Besides, FileName and oState aren't
-/// filed, and of numbers 15 digits are, which is what is told of them.
+/// Changes a saved definition into the one that a reload returns, loss by loss. FileName and oState aren't
+/// filed either, and numbers are filed with 15 digits, but `All` doesn't show these losses.
 class Losses {
 public:
     explicit Losses(clsHTDRDD& definition) : rdd(definition) {
@@ -74,25 +74,25 @@ public:
         Repair();
     }
 
-    /// Whether another save gives another file; each reason for one is noted here.
+    /// Whether a second save writes a different file; each reason sets it.
     bool seen = false;
 
 private:
-    /// Only those of objectives are filed, and only where they are valid.
+    /// Only scaled scores of objectives are filed, and only valid ones.
     void LoseScores() {
-        std::vector<Ref<clsHTDRDDSubtest>> invalid; // all are judged before any text is cut
+        std::vector<Ref<clsHTDRDDSubtest>> invalid; // all are checked before any text is cut
         for (std::int32_t l = 1; l <= rdd.Subtests->Count(); ++l)
             if (const auto subtest = rdd.Subtests->Item(l); !subtest->ScaledScore->IsValid(Ref(&rdd), l > 1))
                 invalid.push_back(subtest);
         for (const auto& subtest : invalid) subtest->ScaledScore = Make<clsHTDRDDScaledScore>();
         Each(*rdd.Subtests, [this](auto& subtest) {
             CutTexts(*subtest.ScaledScore);
-            CutTexts(*subtest.ScaledScore->DB); // what is filed in cipher keeps its line breaks
+            CutTexts(*subtest.ScaledScore->DB); // enciphered texts keep their line breaks
         });
         rdd.ScaledScore->Clear();
         rdd.SubtestScaledScore->Clear();
     }
-    /// Only scrambled versions have their sequences filed, and a generic key has no versions.
+    /// Only scrambled versions have their sequences filed. A generic key has no versions.
     void LoseVersions() {
         if (generic) rdd.Versions = Make<clsHTDRDDVersions>();
         LoseItems(rdd.Versions->Answers);
@@ -102,14 +102,14 @@ private:
     }
     void LoseAnswers(clsHTDRDDQuestion& q) {
         const bool numeric = q.DataType == HTDReportDataTypeNumeric;
-        const bool bounded = numeric && q.AnswerValues->Count() == 0; // the bounds of others aren't filed
+        const bool bounded = numeric && q.AnswerValues->Count() == 0; // other bounds aren't filed
         for (double* const bound : {&q.MinValue, &q.MaxValue}) {
             const Text filed = RegionalText(std::exchange(*bound, -999));
-            if (bounded) *bound = LeadingNumber(filed); // up to a comma
+            if (bounded) *bound = LeadingNumber(filed); // reads up to a comma
             seen |= bounded && RegionalText(*bound) != filed;
         }
         if (generic) {
-            if (q.AnswerValues->Count() > 0) { // the codes of the first key stand for the answers
+            if (q.AnswerValues->Count() > 0) { // the codes of the first key replace the answers
                 const Text codes = basPublic::CorrectAnswerToIndices(q, 1);
                 q.CorrectAnswers = Make<clsHTDRDDStrings>();
                 q.CorrectAnswers->Add(codes);
@@ -120,21 +120,21 @@ private:
         }
         if (!q.PartialCredit) q.CorrectAnswerPoints = Make<clsHTDRDDStrings>();
         for (auto* const list : ListsOf(q)) LoseItems(*list);
-        seen |= numeric && !bounded && q.AnswerValues->Count() == 0; // there are bounds to file now
+        seen |= numeric && !bounded && q.AnswerValues->Count() == 0; // now the bounds are filed
         const bool pointless = q.PartialCredit && q.CorrectAnswerPoints->Item(1).empty();
         seen |= pointless || q.MultiplesPermitted < 0;
         if (pointless) q.PartialCredit = false;
         q.MultiplesPermitted = static_cast<std::int16_t>(std::abs(q.MultiplesPermitted));
         Cut(q.BlankText, q.MultipleText, q.MissingText);
     }
-    /// Items with tabs become several, a single empty one is lost, and so is MaxLength.
+    /// An item with tabs becomes several items. A single empty item and MaxLength are lost.
     void LoseItems(Ref<clsHTDRDDStrings>& list) {
         Text filed = list->AsString();
         Cut(filed);
         list = Make<clsHTDRDDStrings>();
         list->AddDelimitedString(filed);
     }
-    /// Those beyond the objectives and weights without membership. The overall objective has all questions.
+    /// Memberships beyond the objectives, weights without membership. All questions join the overall one.
     void LoseMemberships(clsHTDRDDQuestion& q) {
         const auto before = std::exchange(q.Subtests, Make<clsHTDRDDQuestionSubtests>());
         for (std::int32_t l = 1; l <= rdd.Subtests->Count(); ++l) {
@@ -143,7 +143,7 @@ private:
             seen |= q.Subtests->Includes(l) != before->Includes(l);
         }
     }
-    /// Keys end at "=", without outer blanks; case doesn't tell them apart; default ones are first and back.
+    /// A key ends at "=", loses outer blanks, and ignores case. The default keys come first and are restored.
     void LoseHeaderKeys() {
         const auto before = std::exchange(rdd.Header, Make<clsHTDRDD>()->Header);
         const auto lines = [](const Dictionary& header) {
@@ -159,7 +159,7 @@ private:
         }
         seen |= lines(*rdd.Header) != lines(*before);
     }
-    /// Those without rows. Decimal marks of start values become points.
+    /// Scales without rows lose their names. Decimal marks of start values become points.
     void LoseScaleNames(clsHTDRDDGradeScale& scale) {
         if (scale.Count() == 0) scale.ScaleName.clear();
         Cut(scale.ScaleName);
@@ -167,8 +167,8 @@ private:
             row.StartValue = Replaced(row.StartValue, mark, u".");
         });
     }
-    /// Gives the defaults. The document's scale goes to the overall objective and to the shared scale, that
-    /// one to the other objectives.
+    /// Adds the defaults. The document's scale goes to the overall objective and to the shared scale, and the
+    /// shared scale to the other objectives.
     void Repair() {
         rdd.Versions->Sequences->AddDefault(rdd.Questions->Count());
         seen |= rdd.Subtests->Count() == 0;
@@ -183,7 +183,7 @@ private:
         for (std::int32_t l = 1; l <= rdd.Subtests->Count(); ++l)
             carry(l == 1 ? *rdd.GradeScale : *rdd.SubtestGradeScale, *rdd.Subtests->Item(l)->GradeScale);
     }
-    /// A value ends with its line.
+    /// A text ends at its first line break.
     void Cut(Text& text) {
         const std::size_t end = text.find(u'\n');
         if (end == Text::npos) return;
@@ -257,7 +257,7 @@ TEST_F(RoundTrip, KeepsAllButTheLosses) {
             EXPECT_TRUE(original->FileName.starts_with(u"/tmp/"));
             EXPECT_FALSE(copy->oState);
             EXPECT_EQ(original->oState, Ref<Object>(original->Header));
-            ASSERT_EQ(files.files.size(), 1U); // the text behind the archive, which stays
+            ASSERT_EQ(files.files.size(), 1U); // the archive's text, which stays
             EXPECT_NE(files.files.begin()->first, original->FileName);
             EXPECT_EQ(files.files.begin()->second, first);
         }

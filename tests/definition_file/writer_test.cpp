@@ -26,7 +26,6 @@ protected:
         return names;
     }
     std::string Exam() { return files.files[u"/exam.rdd"]; }
-    /// The lines of tests/words/NAME.txt.
     static Text Lines(const std::string& name) {
         Text text;
         for (const std::string& line : Words(name)) text.append(FromUtf8(line)).append(u"\r\n");
@@ -73,7 +72,7 @@ TEST_F(DefinitionWriter, WritesLittleOfAnEmptyDefinition) {
     EXPECT_EQ(saved(1), text(u"2", u"1")) << "the sequence of standard versions isn't filed";
 }
 
-// This is meant: a question that counts twice is announced twice, so that the file isn't read.
+// This is meant: a question that counts twice makes NumQuestions too large, so the file can't be read.
 TEST_F(DefinitionWriter, AnnouncesAQuestionOfAGenericKeyTwice) {
     ASSERT_TRUE(Read(u"[Report]\nNumQuestions=1\nType=3\n\n[Question]\nIncludeGrade=1\nSubjectiveField=1\n"));
     EXPECT_TRUE(rdd->Save(u"/exam.rdd", false));
@@ -137,7 +136,7 @@ TEST_F(DefinitionWriter, AsksBeforeItSavesInvalidVersions) {
     EXPECT_EQ(Heard().back(), kNotSet + "basTemplate.VB_RT_save_template") << "a membership is missing";
 }
 
-/// Archives that others made.
+/// Archives that Save didn't write.
 class ArchivedDefinition : public DefinitionWriter {
 protected:
     bool ReadPacked(const std::vector<std::string>& texts, TextView password = {}) {
@@ -162,7 +161,7 @@ TEST_F(ArchivedDefinition, IsReadIfItHoldsOneText) {
     EXPECT_EQ(Heard(), Said{"Invalid File: The specified file is invalid or corrupt. Operation aborted. "
                             "[152 &OK]"});
     EXPECT_EQ(rdd->NumPages, 7);
-    // What doesn't open counts as plain text, and that is refused by its first line, in silence.
+    // An archive that doesn't open counts as text. Its first line is wrong, so it is refused silently.
     EXPECT_FALSE(ReadPacked({Unicode(kSmall)}, u"another"));
     EXPECT_EQ(rdd->NumPages, 0);
     files.operations = 0;
@@ -186,7 +185,7 @@ TEST_F(ArchivedDefinition, IsOpenedByOtherProgramsWithThePassword) {
 }
 
 TEST_F(ArchivedDefinition, NeedsATemporaryFolder) {
-    files.failingOperation = 2; // the name, the folder
+    files.failingOperation = 2; // 1: the name, 2: the folder
     rdd->NumPages = 7;
     EXPECT_FALSE(Read(kSmall));
     EXPECT_THAT(Heard(), ::testing::ElementsAre(::testing::MatchesRegex(

@@ -26,7 +26,7 @@ protected:
         }
         files.files[u"/a.zip"] = writer.Finish().value().View();
     }
-    /// What comes out: "true 2: one|two| = one=1 two=2", the names listed, then what is in the folder.
+    /// The result, as in "true 2: one|two| = one=1 two=2": the returned names, then the files in the folder.
     std::string UnZip(TextView password = {}, bool Overwrite = true) {
         Array<Text> names;
         std::int32_t number = 7;
@@ -65,7 +65,7 @@ TEST_F(Archives, AreMadeOfFilesAndTakenApart) {
 TEST_F(Archives, GiveFilesNoNamesButTheirLastParts) {
     Pack({{u"../../up", "1"}, {u"/abs/C:dos", "2"}, {u"back\\slash", "3"}, {u"a/up", "4"}});
     EXPECT_EQ(UnZip(), "true 4: up|dos|slash|up| = dos=2 slash=3 up=4") << "the later one of a name stays";
-    // This is meant: the positions of members that failed stay empty, and the list loses its end.
+    // This is meant: the positions of members that failed stay empty, and the list loses entries at its end.
     Pack({{u"folder/", ""}, {u"one", "1"}, {u"..", "x"}, {u"two", "2"}, {u".", "x"}, {u"three", "3"}});
     files.files.erase(u"/out/up");
     EXPECT_EQ(UnZip(), "false 3: |one|| = dos=2 one=1 slash=3 three=3 two=2");

@@ -12,13 +12,13 @@ namespace {
 
 using basError::ReportError;
 
-/// A host that is nothing but members by name.
+/// A host whose members are reached only by name.
 class ScriptHost final : public LateBound {
 public:
-    Said calls; ///< arguments of RaiseError, "|" behind each
+    Said calls; ///< arguments of RaiseError, each followed by "|"
     bool silent = false;
     std::int32_t result = 7;
-    Text failing; ///< member that fails
+    Text failing; ///< the member that fails
 
     Variant Get(TextView name) override {
         Try(name);

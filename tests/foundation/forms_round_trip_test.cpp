@@ -13,11 +13,11 @@
 namespace htdrdd::test {
 namespace {
 
-/// Sends scales and scaled scores made at random through each of their forms and compares what comes back,
-/// less what the form is known to lose.
+/// Writes random grade scales and scaled scores in each of their forms, reads them back and compares, except
+/// for the known losses of the form.
 class FormsRoundTrip : public Session {
 protected:
-    /// Runs a check on 10,000 learning objectives, in either region.
+    /// Runs a check on 10,000 learning objectives, in both regions.
     template <class Check>
     void Each(Check check) {
         std::int32_t left = 10'000;
@@ -29,17 +29,17 @@ protected:
             left -= made->Subtests->Count();
         }
     }
-    /// XML holds no NUL and no unpaired surrogate, and of the other texts that are made here all.
+    /// XML holds all texts used here, except for NUL and unpaired surrogates.
     static Text FitForXml(TextView text) {
         return FromUtf8(ToUtf8(Replaced(text, TextView(u"\0", 1), u"\uFFFD")));
     }
-    /// Exports a record, of which it is known whether its texts fit.
+    /// Exports a record; `fits` tells whether XML can hold its texts.
     template <class Record>
     void Export(const Record& record, bool fits) {
         EXPECT_EQ(record.Export(u"/file.xml"), fits);
         EXPECT_EQ(Heard(), fits ? Said() : Said{kArgument + ToUtf8(record.ClassName()) + ".Export"});
     }
-    /// Changes the texts of a scaled score, and those of its numbers, as they stand outside of ciphers.
+    /// Changes the members of a scaled score that aren't enciphered, as texts.
     template <class Change>
     static void EachText(clsHTDRDDScaledScore& score, Change change) {
         for (const ScaledScoreRow& row : kScaledScoreMembers) {
@@ -48,7 +48,7 @@ protected:
             if (row.form == ScaledScoreRow::Form::Plain) row.put(score, change(value), Where::current());
         }
     }
-    /// The rows of a scale with start values as a form leaves them.
+    /// A copy of a scale with the start values that a form writes.
     template <class Written>
     static Ref<clsHTDRDDGradeScale> Expected(const clsHTDRDDGradeScale& scale, Written written) {
         const auto expected = scale.Copy();
@@ -74,7 +74,7 @@ TEST_F(FormsRoundTrip, OfGradeScaleExchangeFiles) {
     });
 }
 
-/// DB->Valid isn't there; texts lose their outer blanks. A text with the delimiter in it is lost.
+/// DB->Valid isn't stored, and texts lose their outer blanks. A text that contains the delimiter is lost.
 TEST_F(FormsRoundTrip, OfScaledScoreTextsAndLibraries) {
     Each([](const clsHTDRDDSubtest& subtest, std::uint64_t seed) {
         const clsHTDRDDScaledScore& score = *subtest.ScaledScore;
@@ -94,7 +94,7 @@ TEST_F(FormsRoundTrip, OfScaledScoreTextsAndLibraries) {
     });
 }
 
-/// DB->Valid isn't there.
+/// DB->Valid isn't stored.
 TEST_F(FormsRoundTrip, OfScaledScoreExchangeFiles) {
     Each([this](const clsHTDRDDSubtest& subtest, std::uint64_t /*seed*/) {
         const clsHTDRDDScaledScore& score = *subtest.ScaledScore;

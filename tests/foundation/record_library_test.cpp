@@ -9,7 +9,7 @@
 namespace htdrdd::test {
 namespace {
 
-/// Both libraries, driven by rows of operations.
+/// Both libraries, tested with rows of operations.
 class RecordLibraries : public Session {
 protected:
     static Ref<clsHTDRDDGradeScale> RecordOf(const clsHTDGradeScaleManager& library, TextView text) {
@@ -32,7 +32,7 @@ protected:
                DecimalText(score.ScaledScoreCriteriaPrimary);
     }
 
-    /// What an operation gives. Keys and texts of records are in front of and behind ":".
+    /// The result of an operation. In its argument, ":" separates the key from the record's text.
     template <class Library>
     Text Done(Library& library, TextView operation, TextView argument) {
         const std::size_t colon = argument.find(u':');
@@ -61,8 +61,8 @@ protected:
         return keys;
     }
 
-    /// Rows of operations and what they give, with "!" for each event and the number and member of each
-    /// complaint.
+    /// Rows of operations and their results, with "!" for each event and the number and member of each
+    /// report.
     template <class Library>
     void CheckLibrary(const std::string& words) {
         CheckWords(words, [this](const Fields& row) {

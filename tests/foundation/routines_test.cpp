@@ -16,7 +16,7 @@ using namespace basPublic;
 
 class FileRoutines : public Session {
 protected:
-    /// What a backup waits for and leaves: "5 pauses: a.rdd.old".
+    /// The pauses of a backup and the files afterwards: "5 pauses: a.rdd.old".
     std::string Backup(int refusedCopies, int refusedDeletions) {
         files.files = {{u"a.rdd", "1"}};
         files.refusedCopies = refusedCopies;

@@ -9,7 +9,7 @@ namespace {
 
 class GradeScaleForms : public Session {
 protected:
-    /// What an import into a scale gives and leaves, and what is said.
+    /// The result of an import into a scale, the scale afterwards, and the reports.
     Text Imported(std::string bytes) {
         files.files[u"/scale.xml"] = std::move(bytes);
         const auto scale = Make<clsHTDRDDGradeScale>();
@@ -20,7 +20,7 @@ protected:
         for (const std::string& line : Heard()) result += u" [" + FromUtf8(line) + u"]";
         return result;
     }
-    /// A document in which { and } stand for the tags of its root.
+    /// A document; { and } in the text stand for the tags of its root.
     static Text Document(TextView text) {
         return Replaced(Replaced(text, u"{", u"<HaldenTallyDesk FileType=\"GradeScale\">"), u"}",
                         u"</HaldenTallyDesk>");
@@ -102,7 +102,7 @@ TEST_F(GradeScaleForms, ExchangeFilesAreWrittenInOnePiece) {
     EXPECT_EQ(files.files, (std::map<Text, std::string>{{u"/scale.xml", "old"}}));
 }
 
-/// The clip, what it is read as, and that written again.
+/// A clip, the scale read from it, and the clip that this scale writes.
 TEST_F(GradeScaleForms, SpreadsheetsPasteRows) {
     CheckWords("grade_scale_clips", [this](const Fields& row) {
         Text told = InBothRegions([&] {
@@ -139,7 +139,7 @@ TEST_F(GradeScaleForms, PossiblePointsAreThoseOfALearningObjective) {
         subtest->SubtestName = name;
         rdd->Subtests->Add(subtest);
     }
-    for (std::int32_t l = 1; l <= 6; ++l) { // points of 1, 10, 100, ... where it is graded, else double
+    for (std::int32_t l = 1; l <= 6; ++l) { // points of 1, 10, 100, ... if graded, else double
         const auto question = Make<clsHTDRDDQuestion>();
         question->CorrectPoints = std::pow(10, l - 1);
         question->SubjectivePoints = 2 * question->CorrectPoints;
@@ -158,7 +158,7 @@ TEST_F(GradeScaleForms, PossiblePointsAreThoseOfALearningObjective) {
     EXPECT_EQ(Heard(), Said{kNotSet + "clsHTDGradeScaleManager.CalcTotalPossibleScore"});
 }
 
-/// Each n of d questions, as a percentage that is graded at 0 to 3 places, against whole numbers.
+/// n of d questions as a percentage, graded at 0 to 3 places, compared with integer arithmetic.
 TEST_F(GradeScaleForms, ScoresOnABoundaryGetTheGradeThatStartsThere) {
     const auto scale = Make<clsHTDRDDGradeScale>();
     scale->AddDelimitedStrings(u"above,at,below", u",,", u",");

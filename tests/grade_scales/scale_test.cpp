@@ -28,7 +28,7 @@ TEST_F(GradeScales, AScoreIsRoundedBeforeItIsCompared) {
           });
 }
 
-/// Grades, start values, what is said and the row that is written.
+/// Grades, start values, then the report and the row that Validate writes.
 TEST_F(GradeScales, AreHeldToTheirRulesInOrder) {
     CheckWords("grade_scale", [&](const Fields& row) {
         std::int32_t item = -1;

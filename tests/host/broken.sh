@@ -1,6 +1,6 @@
 #!/bin/sh
-# broken.sh HTDRDD NAME SAMPLE EXPRESSION [ARGUMENT...]: like golden.sh, in a folder with copies of the samples, of
-# which SAMPLE is edited with a sed expression. Each keeps its character set.
+# broken.sh HTDRDD NAME SAMPLE EXPRESSION [ARGUMENT...]: like golden.sh, in a folder with copies of the
+# samples, where a sed expression edits SAMPLE. Each sample keeps its character set.
 htdrdd=$1
 name=$2
 sample=$3

@@ -1,8 +1,8 @@
 #!/bin/sh
-# golden.sh HTDRDD NAME [ARGUMENT...]: runs htdrdd and compares its output, its complaints and its exit code with
-# golden/NAME.txt. With HTDRDD_UPDATE_GOLDEN=1 the golden file is written instead. GOLDEN_WIDTH is the width, 100
-# by default. Line numbers of the library don't count. For names that begin with json_sample_, each question and
-# each objective is put on one line.
+# golden.sh HTDRDD NAME [ARGUMENT...]: runs htdrdd and compares its output, its complaints and its exit code
+# with golden/NAME.txt. HTDRDD_UPDATE_GOLDEN=1 writes the golden file instead. GOLDEN_WIDTH is the width, 100
+# by default. Line numbers of the library are masked. For names that begin with json_sample_, each question
+# and each objective is put on one line.
 htdrdd=$1
 name=$2
 shift 2

@@ -1,6 +1,6 @@
 #!/bin/sh
-# terminal.sh HTDRDD: on a terminal lines keep to its width, whatever COLUMNS says, and headings are in colour,
-# but not under NO_COLOR.
+# terminal.sh HTDRDD: on a terminal, lines keep to the terminal's width, whatever COLUMNS is, and headings are
+# in colour unless NO_COLOR is set.
 escape=$(printf '\033')
 COLUMNS=200
 export COLUMNS

@@ -1,6 +1,6 @@
 #!/bin/sh
-# writing.sh HTDRDD NAME: runs the commands of NAME below in a folder with copies of the samples and compares what
-# they print with golden/writing_NAME.txt, as golden.sh does. At the end stand the files that they left.
+# writing.sh HTDRDD NAME: runs the commands of NAME below in a folder with copies of the samples and compares
+# their output, followed by a list of the files left, with golden/writing_NAME.txt, as golden.sh does.
 htdrdd=$1
 samples=$PWD/samples
 golden=$(cd "$(dirname "$0")" && pwd)/golden/writing_$2.txt
@@ -15,7 +15,7 @@ run() {
     echo "\$ htdrdd $*"
     : >"$work/input" && run_with_input "$@"
 }
-# What stands on standard input, then the arguments.
+# given TEXT ARGUMENT...: runs htdrdd with TEXT on standard input.
 given() {
     text=$1
     shift
@@ -28,14 +28,14 @@ run_with_input() {
     sed 's/; Line: [0-9]*/; Line: #/' "$work/output"
     echo "--- exit code $code"
 }
-# What is typed, then the arguments. It isn't echoed: that would come in between at random.
+# run_on_terminal TEXT ARGUMENT...: types TEXT. It isn't echoed: the echo would appear at a random place.
 run_on_terminal() {
     typed=$1
     shift
     printf "\$ htdrdd %s, answered with '%s'\n" "$*" "$typed"
     printf "$typed" | script -qE never -c "'$htdrdd' $*; echo --- exit code \$?" /dev/null | tr -d '\r'
 }
-# Prints what differs.
+# Prints the differences of two definitions.
 compare() {
     echo "\$ compare $1 $2"
     "$htdrdd" show --json --secrets "$1" | grep -v '"FileName"' >"$work/first"
@@ -80,7 +80,7 @@ header() {
     compare new.rdd quiz.rdd
     run header save quiz.rdd older.header
 }
-# edited SAMPLE EXPRESSION FILE: writes a sample in UTF-16 anew, edited by sed.
+# edited SAMPLE EXPRESSION FILE: writes a copy of a sample, edited by sed, in UTF-16.
 edited() {
     iconv -f UTF-16 -t UTF-8 "$samples/$1.rdd" | sed "$2" | iconv -f UTF-8 -t UTF-16 >"$3"
 }

@@ -8,7 +8,7 @@ namespace {
 
 class GenericKeys : public Merging {
 protected:
-    /// A definition whose text is edited first, from "what=>with".
+    /// A definition read from a text after edits of the form "old=>new".
     Ref<clsHTDRDD> Made(TextView path, Text text, const Fields& edits) {
         for (const Text& edit : edits) {
             const Fields parts = Split(edit, u"=>").Items();
@@ -50,7 +50,7 @@ TEST_F(GenericKeys, BringAllButTheForm) {
     EXPECT_EQ(rdd->SubtestGradeScale->ScaleName + rdd->SubtestGradeScale->AsString(), u"OwnA");
     EXPECT_EQ(rdd->ScaledScore->ScaledScoreName + rdd->SubtestScaledScore->ScaledScoreName, u"NormOther");
     EXPECT_NE(rdd->ScaledScore, generic->ScaledScore);
-    EXPECT_EQ(oldScore->ScaledScoreName, u""); // it is cleared before it is replaced
+    EXPECT_EQ(oldScore->ScaledScoreName, u""); // cleared before it is replaced
     EXPECT_TRUE(rdd->CustomHeader);
     EXPECT_EQ(rdd->Header->Item(u"OWN").ToText(), u"1");
     EXPECT_EQ(rdd->Subtests->Item(2), generic->Subtests->Item(3)); // shared
@@ -62,7 +62,7 @@ TEST_F(GenericKeys, BringAllButTheForm) {
     EXPECT_EQ(question->CorrectAnswers->AsString() + question->CorrectCodes->AsString(), u"(B,A)(2,1)");
     EXPECT_EQ(question->CorrectAnswerPoints->Item(1), u"1,1");
     EXPECT_EQ(rdd->Questions->Item(3)->CorrectAnswerPoints->Item(1), u"");
-    source->QuestionName = question->QuestionName; // what a question keeps
+    source->QuestionName = question->QuestionName; // the members that a question keeps
     source->AnswerValues = question->AnswerValues;
     source->AnswerCodes = question->AnswerCodes;
     source->CorrectAnswers = question->CorrectAnswers;
@@ -90,7 +90,7 @@ TEST_F(GenericKeys, OfAnotherKindAreRefusedInSilence) {
     EXPECT_TRUE(Merged(generic, false).starts_with(u"false unchanged ! (silent) Key Import Error: "));
 }
 
-/// The steps run on one object: what is emptied first is empty when it is taken over.
+/// The definition is merged into itself: members that the merge clears are empty when it copies them.
 TEST_F(GenericKeys, OfTheDefinitionItselfEmptyIt) {
     rdd = Made(u"/generic.rdd", generic_, {});
     const Text merged = Merged(rdd);

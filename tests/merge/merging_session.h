@@ -1,4 +1,4 @@
-/// What a merge makes of a definition, as one line.
+/// The result of a merge, as one line.
 #pragma once
 
 #include "htdrdd91/platform/encoding.h"
@@ -8,9 +8,9 @@
 namespace htdrdd::test {
 
 /// "Overall 70 | 1: A/B | g1 B/C 'One' | -1 | s&1 (A,B)": learning objectives with benchmarks, the versions,
-/// and each question: ! where the lists of its keys differ in length, graded, subjective, x for extra credit,
-/// p for partial credit, & where all answers are demanded, m where several may be marked, its memberships,
-/// the correct answer of each key and the text.
+/// and each question: ! if the lists of its keys differ in length, g graded, s subjective, x extra credit, p
+/// partial credit, & if all answers are required, m if several may be marked, its memberships, the correct
+/// answer of each key, and the text.
 inline Text KeyOf(const clsHTDRDD& rdd) {
     Text told;
     Each(*rdd.Subtests, [&](const clsHTDRDDSubtest& subtest) {
@@ -43,7 +43,7 @@ inline Text KeyOf(const clsHTDRDD& rdd) {
 /// The session of a test that merges.
 class Merging : public Session {
 protected:
-    /// Runs `merge`: whether that succeeds, the key that is left, and what was said.
+    /// Runs `merge`. Returns its result, the resulting key or "unchanged", and the reports.
     template <class Merge>
     Text AfterMerge(Merge merge) {
         const Text before = Told(*rdd);

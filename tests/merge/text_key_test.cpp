@@ -17,7 +17,7 @@ protected:
         files.files[u"/exam.key"] = ToCodePage(key);
         return AfterMerge([&] { return rdd->MergeTextKey(u"/exam.key", bVerbose); });
     }
-    /// The same for the definition as it was read.
+    /// The same, after reading the definition again.
     Text MergedAnew(TextView key) {
         ReadAnew();
         return Merged(key);
@@ -52,9 +52,9 @@ TEST_F(TextKeys, AreReplacedByTheNext) {
     EXPECT_EQ(Replaced(KeyOf(*rdd), u"!", u""), saved); // empty points aren't filed
 
     EXPECT_EQ(Merged(u"1\t\t4\tyes"),
-              u"true Overall 70 | 0:  | -1 | g1 A | -1 | s1 4 | g1 yes | -x1 | -1"); // a question less
+              u"true Overall 70 | 0:  | -1 | g1 A | -1 | s1 4 | g1 yes | -x1 | -1"); // one question fewer
     const Text left = u"true Overall 70 | 0:  | -1 | g1 B | -1 | s1 4 | -1 | -x1 | -1";
-    EXPECT_EQ(Merged(u"2\t4", false), left); // what was turned off stays so
+    EXPECT_EQ(Merged(u"2\t4", false), left); // questions that were turned off stay off
     EXPECT_EQ(Merged(u"5\t4", false).substr(0, 40), u"false Overall 70 | 0:  | -1 | g1 | -1 | ");
     const Text refused = u"false unchanged ! (silent) Key Import Error: The text key file attempts to define "
                          u"multiple test versions; however, no test version identifier has been setup. @ "
@@ -62,7 +62,7 @@ TEST_F(TextKeys, AreReplacedByTheNext) {
     EXPECT_EQ(Merged(several, false), refused);
     rdd->Versions->Question = 8;
     EXPECT_EQ(Merged(several, false), refused);
-    rdd->Subtests->RemoveAll(); // without a benchmark to remember it is 0
+    rdd->Subtests->RemoveAll(); // no benchmark to keep: it is 0
     EXPECT_EQ(Merged(u"2\t4"), u"true Overall 0 | 0:  | -1 | g1 B | -1 | s1 4 | -1 | -x1 | -1");
 
     rdd->Versions->Question = 7;
@@ -83,7 +83,7 @@ TEST_F(TextKeys, OutliveWhatTheHostTakesAway) {
     question->AnswerCodes = nullptr;
     host->whenHeard = [&] { question->CorrectCodes = nullptr; };
     files.files[u"/exam.key"] = "1\t2";
-    EXPECT_TRUE(rdd->MergeTextKey(u"/exam.key")); // each list is asked for when it is used
+    EXPECT_TRUE(rdd->MergeTextKey(u"/exam.key")); // each list is fetched when it is used
     EXPECT_EQ(Heard().size(), 2U);
     ReadAnew();
     rdd->Questions->Add({});
@@ -93,7 +93,7 @@ TEST_F(TextKeys, OutliveWhatTheHostTakesAway) {
     host->whenHeard = nullptr;
 }
 
-/// The walk keeps positions; asking anew for both kinds at each step must give the same.
+/// The walk stores positions. It must find the same questions as a new search for both kinds at each step.
 TEST_F(TextKeys, FindTheQuestionsThatAskingAnewFinds) {
     std::minstd_rand random(7);
     const auto oneIn = [&](unsigned n) { return random() % n == 0; };
@@ -101,7 +101,7 @@ TEST_F(TextKeys, FindTheQuestionsThatAskingAnewFinds) {
         rdd->Questions->RemoveAll();
         const bool fewSubjective = oneIn(2);
         for (auto count = random() % 12; count > 0; --count) {
-            const bool again = rdd->Questions->Count() > 0 && oneIn(4); // one object in several places
+            const bool again = rdd->Questions->Count() > 0 && oneIn(4); // one object at several positions
             const auto question = again ? rdd->Questions->Item(1) : Make<clsHTDRDDQuestion>();
             question->IncludeGrade = !oneIn(3);
             question->SubjectiveField = oneIn(fewSubjective ? 20 : 3);

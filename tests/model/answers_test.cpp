@@ -20,7 +20,7 @@ protected:
         question->CorrectAnswers->Add(answer);
         return CorrectAnswerToCode(*question, 1);
     }
-    /// Answers, codes and points of all keys, and what the first key sets.
+    /// The answers, codes and points of all keys, and the members that the first key sets.
     Text Keys() const {
         return question->CorrectAnswers->AsString(u"|") + u" / " + question->CorrectCodes->AsString(u"|") +
                u" / " + question->CorrectAnswerPoints->AsString(u"|") + u" / " +
@@ -30,7 +30,7 @@ protected:
     Ref<clsHTDRDDQuestion> question = Make<clsHTDRDDQuestion>();
 };
 
-/// Answer, codes as they are kept and as they are filed.
+/// An answer, its codes as stored, and its codes as filed.
 TEST_F(Answers, BecomeCodesInTheOrderOfTheirText) {
     CheckWords("answer_codes", [&](const Fields& row) {
         const Text kept = Code(row[0]);
@@ -47,7 +47,7 @@ TEST_F(Answers, KeysAreSetInAnyOrder) {
     EXPECT_EQ(Keys(), u"||b,c / ||(2,3) / ||2 / 0");
     Answer(u"A,B");
     AssignCorrectAnswer(*question, question->CorrectAnswers->Item(1), 3,
-                        question->CorrectAnswerPoints->Item(1)); // the text of another key
+                        question->CorrectAnswerPoints->Item(1)); // texts from the lists themselves
     question->CorrectAnd = true;
     Answer(u"C,D", 2);
     Answer(u"A,");
@@ -61,7 +61,7 @@ TEST_F(Answers, KeysAreSetInAnyOrder) {
 TEST_F(Answers, HaveValuesInsteadAndPointsOfSubjectiveQuestions) {
     const ScopedRegion region(CommaRegion());
     question->BlankValue = -2.5;
-    question->MultipleText = u"Blanks"; // this is meant: the tests for blank and multiple are turned round
+    question->MultipleText = u"Blanks"; // this is meant: the tests for blank and multiple are swapped
     Check({u"X -> -2.5", u"BLANKS -> -2.5", u"(blank) -> -3"},
           [&](const Fields& row) { return Code(row[0]); });
     question->MultipleText = question->BlankText;

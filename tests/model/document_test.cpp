@@ -15,14 +15,14 @@ protected:
         rdd->Questions->Add(question);
         return question;
     }
-    /// Number and points of extra credit, behind "no" where there is none.
+    /// The number and points of extra credit, after "no " if there is none.
     Text ExtraCredit(const Variant& subtest) {
         std::int32_t number = -7;
         double points = -7;
         const bool any = rdd->GetExtraCredit(subtest, &number, &points);
         return (any ? u"" : u"no ") + DecimalText(number) + u" " + InvariantText(points);
     }
-    /// Positions of a subtest's questions, ";" behind each.
+    /// The positions of a subtest's questions, each followed by ";".
     Text QuestionsOf(const Variant& subtest) {
         const auto positions = rdd->GetSubtestQuestions(subtest);
         if (!positions) return u"none";
@@ -42,7 +42,7 @@ TEST_F(Document, ClearResetsAllButTheFileName) {
     rdd->Clear();
     EXPECT_EQ(Told(*rdd), cleared);
     EXPECT_TRUE(rdd->FileName == u"/exam.rdd" && !rdd->oState && rdd->Header == header);
-    rdd->Header = nullptr; // a failure of its filling only
+    rdd->Header = nullptr; // filling it fails, the rest is cleared
     rdd->TemplateName = u"x";
     rdd->Clear();
     EXPECT_EQ(rdd->TemplateName, u"");
@@ -54,7 +54,7 @@ TEST_F(Document, ClearResetsAllButTheFileName) {
 TEST_F(Document, AScaledScoreIsCopiedAndCleared) {
     const auto score = Make<clsHTDRDDScaledScore>();
     const Text fresh = Told(*score);
-    std::int32_t number = 1; // of each member, none of them what it begins with
+    std::int32_t number = 1; // gives each member a value that differs from its initial one
     for (const ScaledScoreRow& row : kScaledScoreMembers) row.put(*score, DecimalText(++number), {});
     score->DB->Valid = false;
     const Text filled = Told(*score);

@@ -15,7 +15,7 @@ protected:
         list.Add(Make<clsHTDRDDQuestion>(), name);
         list.Item(name)->QuestionName = name;
     }
-    /// The positions that a walk meets, " " behind all.
+    /// The positions that a walk visits, followed by " ".
     Text Walk(std::int32_t (clsHTDRDDQuestions::*next)(std::int32_t) const noexcept) const {
         Text positions;
         for (std::int32_t l = (list.*next)(0); l != 0; l = (list.*next)(l)) positions += DecimalText(l);
@@ -23,7 +23,7 @@ protected:
     }
 };
 
-/// Codes, the highest one and its position, -7 where that is left as it was.
+/// Codes, then the highest code and its position, -7 if the position isn't set.
 TEST_F(ModelLists, AQuestionHasOneHighestCodeAndTextsOnOneLine) {
     Check({u"1,5,5,2 -> 5 at 2", u"-3,0 -> 0 at -7", u" -> 0 at -7", u"abc,12abc,3 -> 12 at 2",
            u".5,1e1,9 -> 10 at 2", u"20,1e999,30 -> 20 at 1"},
@@ -69,7 +69,7 @@ TEST_F(ModelLists, WalksMayDemandMoreThanCountsDo) {
                            list.NumPartialCredit()}),
               (std::vector{2, 1, 2, 3, 4}));
     for (const std::int32_t from : {-1, INT32_MIN, 5, INT32_MAX}) EXPECT_EQ(list.NextGraded(from), 0) << from;
-    list.Add(nullptr, u"key"); // fails whoever meets it
+    list.Add(nullptr, u"key"); // every search that reaches it fails
     EXPECT_FALSE(list.Exists(7) || list.Exists(u"key"));
     EXPECT_EQ(list.NextGraded(2), 5);
     EXPECT_EQ(list.NextGraded(5) + list.NumGraded() + list.Find(u"b"), 0);
@@ -81,7 +81,7 @@ TEST_F(ModelLists, ASequenceKeepsPlacesAndItsArrayABound) {
     EXPECT_FALSE(sequence->AsArray().HasStorage());
     sequence->AddDelimitedString(u"3\t 1x\tx");
     sequence->Item(2, 7);
-    sequence->Item(4, 9); // nothing is there
+    sequence->Item(4, 9); // no such item
     sequence->Add(5, {}, 1);
     EXPECT_EQ(sequence->AsString(), u"5\t3\t7\t0");
     EXPECT_EQ(sequence->Item(5), 0);
@@ -92,7 +92,7 @@ TEST_F(ModelLists, ASequenceKeepsPlacesAndItsArrayABound) {
     EXPECT_EQ(sequence->Count(), 8);
 }
 
-/// Number of sequences, version identifiers, position of the question, and what follows from them.
+/// The number of sequences, the version identifiers, the position of the question, and the resulting scheme.
 TEST_F(ModelLists, TheSchemeOfVersionsFollowsFromWhatIsFilledIn) {
     Check({u"0 ->  -> 0 -> 0", u"1 -> A,B -> 3 -> 1", u"0 -> A -> 3 -> 0", u"0 -> A,B -> 0 -> 0",
            u"2 -> A,B -> 3 -> 2", u"3 -> A,B -> 3 -> 0", u"2 -> A,B,C -> 3 -> 0", u"2 -> A,B -> -1 -> 0"},
@@ -153,7 +153,7 @@ TEST_F(ModelLists, MembershipsThatAreOnlyAnnouncedCostNothing) {
 
 TEST_F(ModelLists, MembershipsMixValuesAndObjectsAsAPlainListDoes) {
     const auto memberships = Make<clsHTDRDDQuestionSubtests>();
-    memberships->AddMany(1);                                // for each operation there is one
+    memberships->AddMany(1);                                // so that every operation has an entry
     std::vector<std::pair<bool, double>> plain{{false, 1}}; // include and weight
     std::mt19937 random(91);
     for (int step = 0; step < 3000; ++step) {

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs a build into a folder and makes a program with nothing but that: package.sh BUILD FOLDER CXX CXXFLAGS
+# package.sh BUILD FOLDER CXX CXXFLAGS: installs a build into a folder and builds a program with only that.
 set -eu
 build=$1 folder=$2 cxx=$3 flags=$4
 source=$(cd "$(dirname "$0")/../.." && pwd)

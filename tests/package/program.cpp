@@ -1,6 +1,6 @@
 #include <htdrdd91/component/entry/exports.h>
 
-int interface = 1; // the component's headers take no names from their users
+int interface = 1; // the component's headers must not define such names
 
 #include <htdrdd91/htdrdd91.h>
 

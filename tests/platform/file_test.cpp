@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The machine's file system in a folder of the test's own.
+/// The machine's file system, in a folder of the test's own.
 class MachineFiles : public ::testing::Test {
 protected:
     MachineFiles() {
@@ -38,7 +38,7 @@ protected:
 TEST_F(MachineFiles, FailuresTellWhatIsWrong) {
     const Text file = Put(u"file", "x");
     const Text none = Path(u"none");
-    /// Failures of reading, appending, deleting, and of copying from there and to there.
+    /// The failures of reading, appending, deleting, copying from a path, and copying to it.
     const auto failures = [&](const Text& path) {
         return std::vector{FailureOf([&] { files.Read(path); }),
                            FailureOf([&] { files.OpenForAppending(path); }),
@@ -136,7 +136,7 @@ TEST_F(MachineFiles, TemporaryOnesAreMadeAnewAndGoWithTheirFolder) {
     EXPECT_EQ(files.ReadEnd(outside, 30).View(), "0123456789");
 }
 
-/// The lines of a file, "|" behind each.
+/// The lines of a file, each followed by "|".
 Text Lines(const std::string& bytes, Encoding encoding = Encoding::Unicode) {
     MemoryFileSystem files;
     files.files[u"/file"] = bytes;

@@ -22,7 +22,7 @@ TEST(Threads, HaveAStateOfTheirOwnThatEndsWithThem) {
     std::thread other([&] {
         CurrentRegion().decimalMark = u'*';
         ThisThread().errorHost = Make<Ending>([&] {
-            (void)CurrentRegion(); // what ends there may still ask for its thread's state
+            (void)CurrentRegion(); // objects that end with the thread may still use its state
             endedOn = std::this_thread::get_id();
         });
     });
@@ -40,7 +40,7 @@ TEST(Regions, ComeFromTheSettingsOfTheMachine) {
         const Region region = MachineRegion();
         regions += Text{region.decimalMark, region.groupMark} + region.currencySign;
     }
-    EXPECT_TRUE(regions == u".,$.,$,.€" || regions == u".,$.,$.,$") << ToUtf8(regions); // not installed
+    EXPECT_TRUE(regions == u".,$.,$,.€" || regions == u".,$.,$.,$") << ToUtf8(regions); // without de_DE
     ::setenv("LC_ALL", before.c_str(), 1);
 }
 

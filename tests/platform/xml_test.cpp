@@ -9,7 +9,7 @@
 namespace htdrdd::test {
 namespace {
 
-/// How many more requests of the XML library are granted; negative: all.
+/// The number of further allocations by the XML library that succeed; negative: all.
 int granted = -1;
 bool IsGranted() { return granted < 0 || granted-- > 0; }
 
@@ -24,7 +24,7 @@ std::string Written() {
     return xml.Finish();
 }
 
-/// What stands in such a document.
+/// The attributes in such a document.
 Text Read(std::string_view bytes) {
     const XmlReader xml(bytes);
     Text text;

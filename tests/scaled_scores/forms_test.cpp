@@ -12,7 +12,7 @@ protected:
         score->ScaledScoreName = u"old";
         score->DB->Valid = false;
     }
-    /// What isn't as in a cleared record, by attributes, and what is said.
+    /// The attributes that differ from those of a cleared record, and the reports.
     Text Told() {
         const auto cleared = Make<clsHTDRDDScaledScore>();
         cleared->Clear();

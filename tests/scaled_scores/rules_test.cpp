@@ -6,7 +6,7 @@
 namespace htdrdd::test {
 namespace {
 
-/// Answers `Subtests` and then `Find` by itself, and as a host takes the arguments of MsgBoxEx.
+/// Handles `Subtests` and `Find` itself; as a host, records the arguments of MsgBoxEx.
 class ByName final : public LateBound {
 public:
     Variant found = 1;
@@ -28,7 +28,7 @@ public:
 
 class ScaledScores : public Session {
 protected:
-    /// By percentile of two learning objectives, sound for the whole test.
+    /// A scaled score by percentile with two learning objectives, valid for the whole test.
     void Renew() {
         ASSERT_TRUE(ReadBytes(Definition("scaled_score_definition")));
         score = rdd->Subtests->Item(1)->ScaledScore->Copy();
@@ -110,7 +110,7 @@ TEST_F(ScaledScores, SearchByNameAndKeepTheirResultWhereThatFails) {
     Renew();
     other->found = u"-1";
     EXPECT_FALSE(isValid(other));
-    // This is meant: what stands when the search fails is that the fields are there.
+    // This is meant: if the search fails, only the check that the fields are filled counts.
     EXPECT_TRUE(isValid(Ref<clsHTDRDD>()) && isValid({}) && isValid(1) && isValid(score) &&
                 isValid(Make<LateBound>()));
     const std::string unknown = "438 Object doesn't support this property or method @ " + member;
@@ -140,7 +140,7 @@ TEST_F(ScaledScores, OfLearningObjectivesAreAskedUntilOneIsValid) {
     rdd->Subtests->Item(1)->ScaledScore->ScaledScoreValues = HTDScaledScoreValuesNone;
     EXPECT_FALSE(rdd->ScaledScoreIsValid());
     Renew();
-    rdd->Subtests->Item(2)->ScaledScore = score; // names a learning objective, but belongs to one
+    rdd->Subtests->Item(2)->ScaledScore = score; // a learning objective's own score, which must not name one
     EXPECT_FALSE(rdd->ScaledScoreIsValid());
     Criteria(1);
     rdd->Subtests->Add(nullptr);

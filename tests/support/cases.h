@@ -1,4 +1,4 @@
-/// Cases as rows of text, and what they are checked under.
+/// Test cases as rows of text, and the conditions under which they are checked.
 #pragma once
 
 #include "htdrdd91/base/array.h"
@@ -19,7 +19,7 @@ namespace htdrdd::test {
 
 using Fields = std::vector<Text>;
 
-/// Checks a row such as "text -> another -> result": `tell` makes the result of the fields in front of it.
+/// Checks a row such as "text -> another -> result". `tell` returns the result for the fields before it.
 template <class Tell>
 void CheckRow(TextView row, Tell tell) {
     const Fields fields = Split(row, u" -> ").Items();
@@ -35,7 +35,7 @@ void CheckWords(const std::string& name, Tell tell) {
     for (const std::string& row : Words(name)) CheckRow(FromUtf8(row), tell);
 }
 
-/// Number of the failure that a statement ends in, 0 where it doesn't fail.
+/// The number of the failure that a statement throws; 0 if it doesn't fail.
 template <class Statement>
 std::int32_t FailureOf(Statement statement) {
     try {
@@ -44,7 +44,7 @@ std::int32_t FailureOf(Statement statement) {
     return 0;
 }
 
-/// The number that a statement gives, or "failure" and its number.
+/// The number that a statement returns, or "failure" and the failure's number.
 template <class Statement>
 Text Outcome(Statement statement) {
     try {
@@ -54,7 +54,7 @@ Text Outcome(Statement statement) {
 
 inline Region CommaRegion() { return {u',', u'.', u"€", "%d.%m.%Y %H:%M:%S"}; }
 
-/// This thread's region for as long as it lives.
+/// Sets this thread's region during the object's lifetime.
 class ScopedRegion {
 public:
     explicit ScopedRegion(Region region) : before_(std::exchange(CurrentRegion(), std::move(region))) {}
@@ -66,7 +66,7 @@ private:
     Region before_;
 };
 
-/// What a statement tells where the decimal mark is a point, and where it is a comma: "1.5 / 15".
+/// The results of a statement with a point and with a comma as the decimal mark: "1.5 / 15".
 template <class Statement>
 Text InBothRegions(Statement statement) {
     Text both;

@@ -1,4 +1,4 @@
-/// A file system in memory that fails where a test wants it to.
+/// A file system in memory whose operations fail on request.
 #pragma once
 
 #include "htdrdd91/platform/file_system.h"
@@ -15,15 +15,15 @@ class MemoryFileSystem final : public FileSystem {
 public:
     std::map<Text, std::string> files;
     std::set<Text> folders{u"/tmp"};
-    std::map<Text, FileMode> modes; ///< of those files that were given one
-    /// The operation that fails, counted from 1; 0: none. Looking whether something is there never fails.
+    std::map<Text, FileMode> modes; ///< only of files that were given a mode
+    /// The operation that fails, counted from 1; 0: none. Checks for existence never fail.
     int failingOperation = 0;
     Err failure = Err::PermissionDenied;
-    /// How many operations there were.
+    /// The number of operations so far.
     int operations = 0;
-    int refusedCopies = 0; ///< how many of the next ones fail
+    int refusedCopies = 0; ///< number of next copies that fail
     int refusedDeletions = 0;
-    int takenNames = 0; ///< how many of the next names are there, whatever they are
+    int takenNames = 0; ///< number of next file names that count as existing
 
     bool FileExists(TextView path) override { return takenNames-- > 0 || files.count(Text(path)) != 0; }
     bool FolderExists(TextView path) override { return folders.count(Text(path)) != 0; }

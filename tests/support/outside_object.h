@@ -5,7 +5,7 @@
 
 namespace htdrdd::test {
 
-/// An object on the stack that is called by name: it counts its references and has no type information.
+/// An object on the stack, called by name. It counts its references and has no type information.
 struct OutsideObject : IDispatch {
     ULONG references = 0;
     HRESULT QueryInterface(REFIID riid, void** result) override {

@@ -1,4 +1,4 @@
-/// Definitions made at random.
+/// Random definitions.
 #pragma once
 
 #include "htdrdd91/model/clsHTDRDD.h"
@@ -11,19 +11,19 @@
 
 namespace htdrdd::test {
 
-/// Makes a definition through the members that a host uses; the same seed makes the same one. Its file can be
-/// read: what is restricted for that has its reason beside it. Every other one is tame, without most of what
-/// makes the next save another one.
+/// Creates a definition through the members that hosts use; the same seed creates the same definition. Its
+/// file can be read: each restriction for this purpose has its reason beside it. Half of the definitions are
+/// tame, without most of the content that a second save would change.
 class RandomDefinition {
 public:
     explicit RandomDefinition(std::uint64_t seed) : random_(seed) {}
 
     Ref<clsHTDRDD> Made() {
         Fill(rdd_->TemplateName, rdd_->Description, rdd_->Notes, rdd_->NumPages, rdd_->CustomHeader);
-        rdd_->ReportType = Enum<HTDReportType>({1, 1, 1, 2, 2, 3, 3, 0, -32768, 32767}); // 16 bits are read
+        rdd_->ReportType = Enum<HTDReportType>({1, 1, 1, 2, 2, 3, 3, 0, -32768, 32767}); // read as 16 bits
         generic_ = rdd_->ReportType == HTDReportTypeGenericGrade;
-        if (Rarely()) rdd_->Header = Make<Dictionary>(); // an empty one, in which the case of keys counts
-        // [Report] can't stand last, so a generic key needs a header. A key with "[" in front is a section.
+        if (Rarely()) rdd_->Header = Make<Dictionary>(); // empty, and its keys are case-sensitive
+        // [Report] can't be the last section, so a generic key needs a header. Keys with "[" are sections.
         for (std::int32_t left = Below(4) + (generic_ ? 1 : 0); left > 0; --left) {
             const TextView key = OneOf<TextView>({u"OWN", u"own", u"_header_cols", u"_R1C1_FLD_TEXT"});
             const TextView odd = OneOf<TextView>({u" a ", u"A", u"a=b", u"", u"\t", u" _r1c1_fld_text"});
@@ -32,8 +32,7 @@ public:
         for (std::int32_t left = wild_ ? Below(4) : 1 + Below(3); left > 0; --left) {
             const auto subtest = Make<clsHTDRDDSubtest>();
             rdd_->Subtests->Add(subtest);
-            static_assert(kMemberCount<clsHTDRDDSubtest> ==
-                          5); // the name first, which scaled scores look for
+            static_assert(kMemberCount<clsHTDRDDSubtest> == 5); // the name first: scaled scores search for it
             Fill(subtest->SubtestName, subtest->Description, subtest->Benchmark, *subtest->GradeScale,
                  *subtest->ScaledScore);
         }
@@ -56,7 +55,7 @@ private:
     T Enum(std::initializer_list<int> values) {
         return static_cast<T>(OneOf(values));
     }
-    /// Without tabs and line breaks, for lists whose items are counted.
+    /// A text without tabs and line breaks, for lists whose items are counted.
     Text OddLine() {
         static constexpr TextView kNul(u"\0", 1);
         Text text;
@@ -67,14 +66,14 @@ private:
                  u"\xD800", u"\xDC00",     u"\x80\x85\x9F", u"\xA0", u"\r",      u"\uFEFF", kNul});
         return text;
     }
-    /// Behind a line break is a line of its own: blank, with "[" in front or with "=" it would count.
+    /// A line break starts a new line, which must not be blank, begin with "[" or contain "=".
     Text OddText() {
         Text text = OddLine();
         if (Below(4) == 0) text.append(u"\t").append(OddLine());
         if (wild_ && Below(50) == 0) text += OneOf<TextView>({u"\nstray", u"\r\nstray", u"\r\r\nstray"});
         return text;
     }
-    /// No infinity, and none that the 15th digit rounds up to one.
+    /// Not infinity, and no number that rounding to 15 digits turns into infinity.
     double Number() {
         if (Below(2) == 0) return std::ldexp(Below(2001) - 1000, Below(1900) - 1000);
         return OneOf({.5, 1 / 3., -2 / 3., .1 + .2, 1e15, -1e-7, 123456789012345678., 1.7e308, 5e-324, -999.,
@@ -96,7 +95,7 @@ private:
     requires std::is_enum_v<Enumeration>
     void FillOne(Enumeration& value) { value = Enum<Enumeration>({0, 1, 2}); }
     void FillOne(Ref<clsHTDRDDScaledScoreDB>& db) { FillAll(*db); }
-    void FillOne(Ref<clsHTDRDDQuestionSubtests>& /*memberships*/) {} // the learning objectives tell how many
+    void FillOne(Ref<clsHTDRDDQuestionSubtests>& /*memberships*/) {} // AddQuestion sets their number
     void FillOne(std::int32_t& number) { number = OneOf({0, 1, -999, 2147483647, -2147483647 - 1}); }
     template <class AnyText>
     void FillOne(AnyText& text) {
@@ -105,7 +104,7 @@ private:
     void FillOne(Ref<clsHTDRDDStrings>& list) {
         for (std::int32_t left = Below(4); left > 0; --left)
             list->Add(Below(2) == 0 ? OneOf<TextView>({u"A", u"B", u"2", u""}) : OddText());
-        list->MaxLength = OneOf({0, 3}); // not before: that could leave a bare line break
+        list->MaxLength = OneOf({0, 3}); // set last: earlier, it could leave a bare line break
     }
     void FillOne(clsHTDRDDGradeScale& scale) {
         Fill(scale.ScaleName);
@@ -118,7 +117,7 @@ private:
             if (rows == 1) item->Grade = item->StartValue = u"0,"; // a single empty item would be no item
         }
     }
-    /// Every other one is valid, most of the time.
+    /// Half of the scaled scores are valid, most of the time.
     void FillOne(clsHTDRDDScaledScore& score) {
         clsHTDRDDScaledScoreDB& db = *score.DB;
         FillAll(score);
@@ -141,11 +140,11 @@ private:
         clsHTDRDDQuestion& q = *made;
         FillAll(q);
         q.Topic = u"line\r\nends\n" + OddText();
-        q.DataType = Enum<HTDReportDataType>({0, 1, 1, 1, 2, 2, 32767, -32768}); // 16 bits are read,
+        q.DataType = Enum<HTDReportDataType>({0, 1, 1, 1, 2, 2, 32767, -32768}); // read as 16 bits,
         q.MultiplesPermitted = Enum<std::int16_t>({0, 1, 32767});
-        if (Rarely()) q.MultiplesPermitted = Enum<std::int16_t>({-1, -32767}); // and an absolute value
+        if (Rarely()) q.MultiplesPermitted = Enum<std::int16_t>({-1, -32767}); // and as an absolute value
         if (!wild_ && q.CorrectAnswerPoints->Item(1).empty()) q.PartialCredit = false;
-        if (generic_ && q.IncludeGrade) q.SubjectiveField = false; // it would be announced twice
+        if (generic_ && q.IncludeGrade) q.SubjectiveField = false; // else it would be counted twice
         for (std::int32_t l = rdd_->Subtests->Count() + (Rarely() ? 1 : 0); l > 0; --l) {
             const auto membership = Make<clsHTDRDDQuestionSubtest>();
             Fill(membership->Include, membership->Weight);
@@ -154,8 +153,8 @@ private:
         if (!Rarely() && q.Subtests->Exists(1)) q.Subtests->SetInclude(1, true);
         rdd_->Questions->Add(made);
     }
-    /// Where versions have a question, their number is checked, and where they are scrambled, the length of
-    /// the sequences, of which an empty one isn't read.
+    /// If versions have a question, the reader checks their number. If they are scrambled, it also checks the
+    /// length of the sequences and doesn't read an empty sequence.
     void FillVersions() {
         clsHTDRDDVersions& versions = *rdd_->Versions;
         const std::int32_t questions = rdd_->Questions->Count();

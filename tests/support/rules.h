@@ -1,4 +1,4 @@
-/// Lists of rules, each with what just breaks it.
+/// Lists of rules, each with a change that just breaks it.
 #pragma once
 
 #include "support/words.h"
@@ -13,12 +13,12 @@ namespace htdrdd::test {
 
 struct RuleCase {
     std::function<void()> breaks;
-    std::function<void()> justPasses; ///< empty where the sound thing itself does
+    std::function<void()> justPasses; ///< empty if the unchanged state just passes
 };
 
-/// Holds each rule against something sound, then breaks them all from the last to the first: each time the
-/// one broken latest, being the first of those that are broken, has to speak, in the words that a file has
-/// for it. `judge` says nothing where all is well.
+/// Checks that a change passes or breaks each rule. Then breaks all rules from the last to the first: the
+/// rule broken last comes first, so its complaint is expected. `words` names the file with the complaints.
+/// `renew` restores a state that breaks no rule, and `judge` returns an empty text in that state.
 template <class Renew, class Judge>
 void CheckRules(const std::string& words, const std::vector<RuleCase>& rules, Renew renew, Judge judge) {
     const std::vector<std::string> verdicts = Words(words);

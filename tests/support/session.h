@@ -1,4 +1,4 @@
-/// What a test works with: a host and a desktop that record, files in memory, and definitions as texts.
+/// The surroundings of tests: a recording host and desktop, files in memory, and definitions as texts.
 #pragma once
 
 #include "htdrdd91/foundation/ErrorHost.h"
@@ -18,7 +18,7 @@ namespace htdrdd::test {
 
 using Said = std::vector<std::string>;
 
-/// How the complaints of common failures start.
+/// The beginnings of reports about common failures.
 inline const std::string kArgument = "5 Invalid procedure call or argument @ ";
 inline const std::string kOverflow = "6 Overflow @ ";
 inline const std::string kSubscript = "9 Subscript out of range @ ";
@@ -27,14 +27,14 @@ inline const std::string kNotSet = "91 Object variable or With block variable no
 inline const std::string kKeyInUse =
     "457 This key is already associated with an element of this collection @ ";
 
-/// Keeps what it was told, one line each: "13 Type mismatch @ clsHTDRDD.Read" for a failure, without the line
-/// of source, "Caption: text @ clsHTDRDD.ValidateKey" for a rule that a definition or a key to be merged
-/// breaks, and "Invalid File: text [152 &OK]" for a message.
+/// Records reports, one line each: "13 Type mismatch @ clsHTDRDD.Read" for a failure, without the source
+/// line, "Caption: text @ clsHTDRDD.ValidateKey" for a rule that a definition or a key to be merged breaks,
+/// and "Invalid File: text [152 &OK]" for a message.
 class RecordingHost final : public ErrorHost {
 public:
     Said said;
     std::int32_t answer = 1;
-    std::function<void()> whenHeard; ///< called at each complaint and message
+    std::function<void()> whenHeard; ///< called for each report and message
     std::int16_t RaiseError(const HostComplaint& complaint) override {
         if (whenHeard) whenHeard();
         const std::string location = ToUtf8(complaint.sLocation);
@@ -74,8 +74,8 @@ public:
 /// UTF-16 little-endian with its byte order mark.
 inline std::string Unicode(TextView text) { return std::string(kUtf16Mark) + ToUtf16(text); }
 
-/// A thread's surroundings for one test; afterwards they are as before. Whatever a test doesn't look at in
-/// `host->said` and `desktop.said` must be silence: that is checked at the end.
+/// The thread's surroundings for one test; the end restores the previous ones. Also checks at the end that
+/// the test has taken all reports from `host->said` and `desktop.said`.
 class Session : public ::testing::Test {
 protected:
     Session() {
@@ -93,10 +93,10 @@ protected:
         UseFileSystem(nullptr);
     }
 
-    /// What was said to the host since the last look.
+    /// The reports to the host since the last call.
     Said Heard() { return std::exchange(host->said, {}); }
 
-    /// Reads a definition from its lines, as a Unicode file or as a single-byte one.
+    /// Reads a definition from a text, as a Unicode file, or from the bytes of a file.
     bool Read(TextView text) { return ReadBytes(Unicode(text)); }
     bool ReadBytes(std::string bytes) {
         files.files[u"/exam.rdd"] = std::move(bytes);

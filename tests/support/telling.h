@@ -1,4 +1,4 @@
-/// All that a definition holds as one text.
+/// The whole content of a definition as one text.
 #pragma once
 
 #include "htdrdd91/base/number.h"
@@ -11,7 +11,7 @@
 
 namespace htdrdd::test {
 
-/// A definition with something everywhere. Its scales have no names, since those outlive it.
+/// A definition that sets every member. Its scales have no names, because scale names survive Clear.
 inline const std::string kFullDefinition = Definition("full_definition");
 
 template <class List, class Visit>
@@ -19,7 +19,7 @@ void Each(const List& list, Visit visit) {
     for (std::int32_t l = 1; l <= list.Count(); ++l) visit(*list.Item(l));
 }
 
-/// Writes down objects through the members that a host uses, "|" behind each.
+/// Writes the members of objects that hosts use, each followed by "|".
 class Telling {
 public:
     void Tell(TextView text) { told.append(text).append(u"|"); }

@@ -1,4 +1,4 @@
-/// Texts that cases are made of or compared with.
+/// Texts from files: definitions, cases and expected results.
 #pragma once
 
 #include <fstream>
@@ -15,7 +15,7 @@ inline std::string Definition(const std::string& name) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The lines of tests/words/NAME.txt, in which the line ends and tabs of a text stand as \r, \n, \t and \v.
+/// The lines of tests/words/NAME.txt. In them, \r, \n, \t and \v stand for line ends and tabs of a text.
 inline std::vector<std::string> Words(const std::string& name) {
     std::ifstream file(HTDRDD_SOURCE_DIR "/tests/words/" + name + ".txt");
     std::vector<std::string> words;

@@ -8,8 +8,8 @@ namespace {
 
 class Keys : public Session {
 protected:
-    /// Q1 and Q5 are graded and stand in all learning objectives, Q5 for extra credit; Q2 is graded with
-    /// partial credit, Q3 subjective, Q4 an identifier.
+    /// Q1 and Q5 are graded and in all learning objectives, Q5 for extra credit. Q2 is graded with partial
+    /// credit, Q3 is subjective, Q4 is an identifier.
     void Renew() { ASSERT_TRUE(ReadBytes(Definition("key_definition"))); }
     clsHTDRDDQuestion& Q(std::int32_t l) { return *rdd->Questions->Item(l); }
     void Points(TextView points) { // of Q2
@@ -21,7 +21,7 @@ protected:
         Exclude(1, 2);
         Exclude(5, 2);
     }
-    /// The only question of the third objective besides Q5.
+    /// Makes Q4 the only question of the third objective besides Q5.
     void PutQ4ForQ1(bool bExtraCredit) {
         Exclude(1, 3);
         Q(4).Subtests->SetInclude(3, true);
@@ -31,7 +31,7 @@ protected:
         rdd->Versions->Question = question;
         rdd->Versions->Answers->AddDelimitedString(u"A\tB\tC");
     }
-    /// The complaint and what was written, "Q2", "K1" or "S3".
+    /// The complaint and the position that was written: "Q2", "K1" or "S3".
     std::string Judge(bool bVerbose = true) {
         std::int32_t question = -1;
         std::int32_t key = -1;
@@ -90,7 +90,7 @@ TEST_F(Keys, CountOneForEachStandardVersion) {
     EXPECT_EQ(Judge(), "");
     Q(5).CorrectAnswers->Item(2, u"");
     EXPECT_TRUE(Judge().ends_with(" Q5 K2"));
-    for (int i = 0; i < 2; ++i) rdd->Versions->Sequences->Add(Make<clsHTDRDDSequence>()); // one key again
+    for (int i = 0; i < 2; ++i) rdd->Versions->Sequences->Add(Make<clsHTDRDDSequence>()); // again one key
     EXPECT_TRUE(Judge().ends_with(" Q1"));
     for (std::int32_t l : {1, 2, 5}) {
         Q(l).CorrectAnswers->Remove(3);

@@ -6,7 +6,7 @@ namespace {
 
 class SubtestRule : public Session {
 protected:
-    /// The type of report and what else a second question has: the position of the objective that is written.
+    /// The result and the position written for a type of report and with more lines for the second question.
     std::string Judge(int type, TextView flags) {
         EXPECT_TRUE(Read(Text(u"[Report]\nNumQuestions=2\nNumSubtests=2\nType=")
                              .append(DecimalText(type))
@@ -21,7 +21,7 @@ protected:
 };
 
 TEST_F(SubtestRule, DependsOnTheTypeOfReport) {
-    const auto judge = [&](TextView flag) { // in a test, in a survey and in a generic key
+    const auto judge = [&](TextView flag) { // in a test, a survey and a generic key
         return Judge(1, flag) + "; " + Judge(2, flag) + "; " + Judge(3, flag);
     };
     EXPECT_EQ(judge(u"IncludeGrade=1"), "true -1; false 2; true -1");

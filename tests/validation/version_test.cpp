@@ -7,9 +7,9 @@ namespace {
 
 class VersionRules : public Session {
 protected:
-    /// Four graded questions with the choices A to C, and two identifiers, for two sequences.
+    /// Two sequences and version identifiers, four graded questions with the choices A to C.
     void RenewScrambled() { Renew("scrambled_definition", HTDVersionTypeSequence); }
-    /// Q3 and Q4 are subjective here, Q1 has a multiple answer.
+    /// Q3 and Q4 are subjective, Q1 has a multiple answer.
     void RenewStandard() { Renew("standard_definition", HTDVersionTypeKey); }
     void Renew(const std::string& definition, HTDVersionType ofVersions) {
         ASSERT_TRUE(ReadBytes(Definition(definition)));
@@ -24,7 +24,7 @@ protected:
     void Identifiers(TextView items) { Fill(*rdd->Versions->Answers, items); }
     void Choices(std::int32_t l, TextView items) { Fill(*Q(l).AnswerValues, items); }
     void Answers(std::int32_t l, TextView items) { Fill(*Q(l).CorrectAnswers, items); }
-    /// The complaint and the version that was written, "V2".
+    /// The complaint and the version that was written: "V2".
     std::string Judge(bool bVerbose = true) {
         std::int32_t version = -1;
         const bool valid = rdd->ValidateVersions(bVerbose, &version, &type);
@@ -45,7 +45,7 @@ TEST_F(VersionRules, HoldForScrambledOnesInOrder) {
          {[&] { Choices(3, u"A\tb\tC"); }, [&] { Choices(3, u"C\tA\tB"); }},
          {[&] { Sequence(2).Add(4); },
           [&] {
-              Sequence(1).Item(4, 3); // only those behind the first are looked at
+              Sequence(1).Item(4, 3); // only sequences after the first are checked
               Sequence(2).Item(4, 4);
               Choices(3, u"x");
           }}},
@@ -54,7 +54,7 @@ TEST_F(VersionRules, HoldForScrambledOnesInOrder) {
     rdd->Versions->Answers->RemoveAll();
     rdd->Versions->Answers->Add(u"");
     EXPECT_TRUE(Judge(false).starts_with("(silent) Graded")) << "a single identifier may be empty";
-    for (const Variant& none : {Variant(7), Variant(1.5), Variant::Null()}) { // the identifiers alone count
+    for (const Variant& none : {Variant(7), Variant(1.5), Variant::Null()}) { // only identifiers count
         type = none;
         Identifiers(u"A\tB");
         EXPECT_EQ(Judge(), "");
@@ -65,7 +65,7 @@ TEST_F(VersionRules, HoldForScrambledOnesInOrder) {
     EXPECT_EQ(Judge(), "");
 }
 
-/// This is meant: with n identifiers, the first n + 1 positions aren't looked at.
+/// This is meant: with n identifiers, the first n + 1 positions aren't checked.
 TEST_F(VersionRules, LookAtChoicesBehindThePositionThatTheIdentifiersReach) {
     RenewScrambled();
     Choices(2, u"A\tB");

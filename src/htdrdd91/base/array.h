@@ -10,13 +10,13 @@
 
 namespace htdrdd {
 
-/// An array whose first element stands at a lower bound of its own. One without storage is a state apart from
-/// one without elements: its bounds can't be asked (failure 9).
+/// An array with its own lower bound. An array without storage differs from an empty array: a query for its
+/// bounds fails with 9.
 template <class T>
 class Array {
 public:
     Array() = default;
-    /// Fails with 6 where the upper bound would leave the range of positions.
+    /// Fails with 6 if the upper bound would leave the range of positions.
     explicit Array(std::vector<T> items, std::int32_t lowerBound = 0, Where at = Where::current())
         : items_(std::move(items)), lowerBound_(lowerBound), hasStorage_(true) {
         const auto largest = static_cast<std::uint64_t>(std::int64_t{INT32_MAX} - lowerBound);
@@ -28,7 +28,7 @@ public:
         Demand(hasStorage_, at);
         return lowerBound_;
     }
-    /// One below the lower bound where there are no elements.
+    /// The lower bound minus 1 if there are no elements.
     [[nodiscard]] std::int32_t UpperBound(Where at = Where::current()) const {
         Demand(hasStorage_, at);
         return lowerBound_ + static_cast<std::int32_t>(items_.size()) - 1;
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] typename std::vector<T>::reference At(std::int32_t index, Where at = Where::current()) {
         return items_[Offset(index, at)];
     }
-    /// The elements in order, whatever their bounds.
+    /// The elements in order, regardless of their bounds.
     [[nodiscard]] const std::vector<T>& Items() const noexcept { return items_; }
     [[nodiscard]] std::vector<T>& Items() noexcept { return items_; }
 
@@ -59,9 +59,9 @@ private:
     bool hasStorage_ = false;
 };
 
-/// The pieces as an array from 0. That of an empty text has no elements, but its bounds can be asked.
+/// The pieces as an array from 0. An empty text yields an array with storage and no elements.
 [[nodiscard]] Array<Text> Split(TextView text, TextView delimiter);
-/// The elements in order with the delimiter between them. An array without storage gives an empty text.
+/// The elements in order with the delimiter between them. Empty for an array without storage.
 [[nodiscard]] Text Join(const Array<Text>& pieces, TextView delimiter);
 
 } // namespace htdrdd

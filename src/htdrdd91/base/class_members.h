@@ -1,4 +1,4 @@
-/// Lists of the data members of a class: whatever handles each of them walks the list.
+/// Lists of the data members of a class, for code that handles each member.
 #pragma once
 
 #include "htdrdd91/base/object.h"
@@ -13,7 +13,7 @@
 
 namespace htdrdd {
 
-/// One data member, under the name that hosts know.
+/// A data member and the name under which hosts know it.
 template <class Class, class T>
 struct NamedMember {
     TextView name;
@@ -22,8 +22,8 @@ struct NamedMember {
 template <class Class, class T>
 NamedMember(const char16_t*, T Class::*) -> NamedMember<Class, T>;
 
-/// The list of a class: a tuple of NamedMember, in the order in which they are declared. A class that has one
-/// specializes this in a header of its own.
+/// The list of a class: a tuple of NamedMember, in declaration order. A class with a list specializes this
+/// variable in a header of its own.
 template <class Class>
 inline constexpr auto kMembers = [] {
     static_assert(sizeof(Class) == 0, "Include the header that lists the members of this class.");
@@ -40,20 +40,20 @@ struct MemberAt {
     static constexpr auto member = std::get<N>(kMembers<Class>).member;
 };
 
-/// Calls `visit(row)` for each row, whose `name` and `member` are constants: they may decide at compile time.
+/// Calls `visit(row)` for each row. Its `name` and `member` are constants, usable at compile time.
 template <class Class, class Visit>
 constexpr void EachMember(Visit visit) {
     [&]<std::size_t... N>(std::index_sequence<N...> /*rows*/) { (visit(MemberAt<Class, N>()), ...); }
     (std::make_index_sequence<kMemberCount<Class>>());
 }
 
-/// Whether a list of names holds one.
+/// Whether a list of names contains a name.
 template <std::size_t N>
 [[nodiscard]] constexpr bool Holds(const std::array<TextView, N>& names, TextView name) noexcept {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Whether all of some names are those of members.
+/// Whether all given names are names of members.
 template <class Class, std::size_t N>
 [[nodiscard]] consteval bool AreMembers(const std::array<TextView, N>& names) {
     std::size_t known = 0;
@@ -61,8 +61,8 @@ template <class Class, std::size_t N>
     return known == N;
 }
 
-/// Whether the list has all data members of a class over Object, by their sizes: one that is missing is found
-/// unless it fits between its neighbours.
+/// Whether the list has all data members of a class derived from Object, according to its size. A missing
+/// member is found unless it fits into the padding between its neighbours.
 template <class Class>
 [[nodiscard]] consteval bool ListsAllMembers() {
     const auto aligned = [](std::size_t size, std::size_t alignment) {

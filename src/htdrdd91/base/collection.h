@@ -1,4 +1,4 @@
-/// The ordered list behind all list classes.
+/// The ordered list that all list classes build on.
 #pragma once
 
 #include "htdrdd91/base/failure.h"
@@ -18,8 +18,8 @@
 
 namespace htdrdd {
 
-/// What names an entry of a list: a number is a position from 1, a text is a key. It refers to the text that
-/// it was made from. `{}` names nothing.
+/// Names an entry of a list: a number is a position from 1, a text is a key. Refers to the text that it was
+/// constructed from. `{}` names no entry.
 class Index {
 public:
     Index() : isGiven_(false) {}
@@ -27,7 +27,7 @@ public:
     Index(TextView key) : key_(key) {}
     Index(const Text& key) : key_(TextView(key)) {}
     Index(const char16_t* key) : key_(TextView(key)) {}
-    /// One that can name nothing. Nothing is there under it, and demanding what is fails with that number.
+    /// An index that matches no entry; Item and Remove fail with `number`.
     static Index Unusable(Err number) {
         Index index;
         index.isGiven_ = true;
@@ -35,31 +35,31 @@ public:
         return index;
     }
 
-    /// The position, where the index is one.
+    /// The position, if the index is a position.
     [[nodiscard]] std::int32_t Position() const noexcept { return position_; }
-    /// The key, where the index is one.
+    /// The key, if the index is a key.
     [[nodiscard]] const std::optional<TextView>& Key() const noexcept { return key_; }
     [[nodiscard]] bool IsGiven() const noexcept { return isGiven_; }
-    /// What demanding an entry fails with that isn't there.
+    /// The failure number of a lookup that finds no entry.
     [[nodiscard]] Err WhenMissing() const noexcept {
         return unusable_.value_or(key_ ? Err::Argument : Err::Subscript);
     }
 
 private:
-    std::int32_t position_ = 0; ///< 0 also where it is no position
+    std::int32_t position_ = 0; ///< 0 if the index is not a position
     std::optional<TextView> key_;
     bool isGiven_ = true;
     std::optional<Err> unusable_;
 };
 
-/// The key of a new entry, which refers to the text that it was made from. `{}` is none.
+/// The key of a new entry. Refers to the text that it was constructed from. `{}` means no key.
 class NewKey {
 public:
     NewKey() = default;
     NewKey(TextView key) : key_(key) {}
     NewKey(const Text& key) : key_(TextView(key)) {}
     NewKey(const char16_t* key) : key_(TextView(key)) {}
-    /// One that is no text: adding an entry under it fails with that number.
+    /// A key that is not a text: adding an entry under it fails with `number`.
     static NewKey Unusable(Err number) {
         NewKey key;
         key.unusable_ = number;
@@ -78,7 +78,7 @@ private:
 
 namespace detail {
 
-/// The key of an entry: none, the entry's own text (which costs nothing), or a text apart.
+/// The key of an entry: none, the entry's own text (which costs nothing), or a separate text.
 class EntryKey {
 public:
     EntryKey() = default;
@@ -88,7 +88,7 @@ public:
         key.text_.reset(&kOwnText);
         return key;
     }
-    /// The text, where there is a key; `own` is the entry's.
+    /// The text of the key, or a null pointer if there is no key. `own` is the entry's text.
     [[nodiscard]] const Text* Of(const Text* own) const noexcept {
         return text_.get() == &kOwnText ? own : text_.get();
     }
@@ -117,8 +117,9 @@ class Collection {
 public:
     [[nodiscard]] std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
 
-    /// Adds at the end, or before or after an entry. Fails, and changes nothing, with 457 where the key is in
-    /// use, with 5 where both places are given, and as Item does where the place isn't there.
+    /// Adds at the end, or before or after an entry. Fails, and changes nothing, with 457 if the key is in
+    /// use, with 5 if both `before` and `after` are given, and as Item does if the entry that they name is
+    /// missing.
     void Add(T item, const NewKey& newKey = {}, const Index& before = {}, const Index& after = {},
              Where at = Where::current()) {
         const std::size_t slot = Place(before, after, at);
@@ -127,13 +128,13 @@ public:
         Insert(slot, {std::move(item), key ? detail::EntryKey(*key) : detail::EntryKey()}, at);
     }
 
-    /// Adds at the end under the item's own text as its key, or without a key where that one is in use.
+    /// Adds at the end with the item's own text as key, or without a key if that key is in use.
     void AddUnderOwnText(T item, Where at = Where::current()) requires std::is_same_v<T, Text> {
         auto key = FindKey(item) ? detail::EntryKey() : detail::EntryKey::OwnText();
         Insert(entries_.size(), {std::move(item), std::move(key)}, at);
     }
 
-    /// Fails with 9 for a position that isn't there, with 5 for an unknown key.
+    /// Fails with 9 for a missing position, with 5 for an unknown key.
     void Remove(const Index& index, Where at = Where::current()) {
         const std::size_t slot = Find(index, at);
         if (const Text* key = KeyOf(entries_[slot]); slotOfKey_ && slot + 1 == entries_.size()) {
@@ -149,8 +150,7 @@ public:
         entries_.clear();
     }
 
-    /// Puts another item in an entry's place. The position stays; a key that the entry had is lost. Fails as
-    /// Item does.
+    /// Replaces an item. The entry keeps its position and loses its key, if it had one. Fails as Item does.
     template <class U = T>
     void Replace(const Index& index, U&& item, Where at = Where::current()) {
         Entry& entry = entries_[Find(index, at)];
@@ -159,28 +159,28 @@ public:
         slotOfKey_.reset();
     }
 
-    /// Adds empty items without keys at the end until there are that many.
+    /// Adds empty items without keys at the end until the collection has `count` items.
     void Lengthen(std::int32_t count) {
         if (count > Count()) entries_.resize(static_cast<std::size_t>(count));
     }
 
-    /// Fails with 9 for a position that isn't there, with 5 for an unknown key.
+    /// Fails with 9 for a missing position, with 5 for an unknown key.
     [[nodiscard]] const T& Item(const Index& index, Where at = Where::current()) const {
         return entries_[Find(index, at)].item;
     }
 
-    /// The item, or a null pointer where there is none. Nothing fails.
+    /// The item, or a null pointer if there is none. Never fails.
     [[nodiscard]] const T* TryItem(const Index& index) const noexcept {
         try {
             const auto slot = Slot(index);
             return slot ? &entries_[*slot].item : nullptr;
-        } catch (...) { // no memory to look a key up, so it can't be read
+        } catch (...) { // no memory to look up the key: the item counts as missing
             return nullptr;
         }
     }
     [[nodiscard]] bool Exists(const Index& index) const noexcept { return TryItem(index) != nullptr; }
 
-    /// The items in order, for range-based loops. A change of the collection ends what an iterator refers to.
+    /// The items in order, for range-based loops. A change of the collection invalidates the iterators.
     class Iterator {
     public:
         using iterator_category = std::forward_iterator_tag;
@@ -206,14 +206,14 @@ public:
     [[nodiscard]] Iterator begin() const noexcept { return Iterator(entries_.begin()); }
     [[nodiscard]] Iterator end() const noexcept { return Iterator(entries_.end()); }
 
-    /// Makes room for more entries.
+    /// Reserves room for `more` additional entries.
     void Reserve(std::size_t more) {
         const std::size_t wanted = entries_.size() + more;
         if (wanted > entries_.capacity()) entries_.reserve(std::max(wanted, 2 * entries_.capacity()));
     }
 
 private:
-    /// Shorter lists are searched from the front.
+    /// Shorter lists are searched linearly.
     static constexpr std::size_t kIndexedFrom = 16;
 
     static const Text* KeyOf(const Entry& entry) noexcept {
@@ -269,7 +269,7 @@ private:
         entries_.push_back(std::move(entry));
         if (const Text* key = KeyOf(entries_.back()); slotOfKey_ && key != nullptr) try {
                 slotOfKey_->emplace(Folded(*key), slot);
-            } catch (...) { // the entry is in; the slots are gathered anew when they are asked for
+            } catch (...) { // the entry is in; the next lookup rebuilds the map
                 slotOfKey_.reset();
             }
     }
@@ -277,7 +277,7 @@ private:
     using SlotOfKey = std::unordered_map<Text, std::size_t>;
     std::vector<Entry> entries_;
     mutable std::unique_ptr<SlotOfKey>
-        slotOfKey_; ///< by folded key; made when a long list is asked for a key
+        slotOfKey_; ///< by folded key; built by the first lookup in a long list
 };
 
 } // namespace htdrdd

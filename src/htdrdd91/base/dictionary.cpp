@@ -12,7 +12,7 @@ void DemandHeld(const Variant& item, Where at) {
 
 } // namespace
 
-/// One text for all keys that are the same key.
+/// The normal form of a key: equal keys have the same normal form.
 Text Dictionary::Normal(const Variant& key, Where at) const {
     if (const Text* text = key.AsText()) return u't' + (mode_ == Compare::IgnoreCase ? Folded(*text) : *text);
     if (key.AsObject() != nullptr) throw Failure(Err::Argument, at);
@@ -63,7 +63,8 @@ void Dictionary::Item(const Variant& key, Variant item, Where at) {
     DemandHeld(item, at);
     Text normal = Normal(key, at);
     if (const std::size_t slot = Find(normal); slot != kNone)
-        std::swap(entries_[slot].item, item); // what was there ends last: its end may come back here
+        std::swap(entries_[slot].item, item); // the old item ends last: its destructor may call back into
+                                              // this dictionary
     else
         Append(std::move(normal), key, std::move(item));
 }

@@ -18,27 +18,26 @@ public:
 
     [[nodiscard]] std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
 
-    /// How text keys compare. It can be set only while the dictionary is empty (else failure 5).
+    /// How text keys compare. Can be set only while the dictionary is empty (else failure 5).
     [[nodiscard]] Compare CompareMode() const noexcept { return mode_; }
     void CompareMode(Compare mode, Where at = Where::current());
 
-    /// Fails with 457 where the key is there already, and as Item does with 13 for a value that can't be
-    /// held.
+    /// Fails with 457 if the key exists, and, as Item does, with 13 for a value that can't be stored.
     void Add(const Variant& key, Variant item, Where at = Where::current());
     /// Reads an item. An unknown key is added at the end with an empty value.
     [[nodiscard]] const Variant& Item(const Variant& key, Where at = Where::current());
-    /// Assigns an item. A known key keeps its spelling and its place, an unknown one is added at the end.
+    /// Assigns an item. A known key keeps its spelling and its place; an unknown key is added at the end.
     void Item(const Variant& key, Variant item, Where at = Where::current());
-    /// Renames a key, which keeps its place. Fails with 32811 for an unknown old key and with 457 for a new
-    /// one that another entry holds.
+    /// Renames a key, which keeps its place. Fails with 32811 if the old key is unknown and with 457 if
+    /// another entry has the new key.
     void Key(const Variant& key, const Variant& newKey, Where at = Where::current());
     [[nodiscard]] bool Exists(const Variant& key, Where at = Where::current()) const;
     /// Fails with 32811 for an unknown key.
     void Remove(const Variant& key, Where at = Where::current());
-    /// Empties the dictionary; the mode stays.
+    /// Empties the dictionary; the compare mode stays.
     void RemoveAll() noexcept;
 
-    /// All keys, or all items, in order, from 0 on.
+    /// All keys, or all items, in order, as an array from 0.
     [[nodiscard]] Array<Variant> Keys() const;
     [[nodiscard]] Array<Variant> Items() const;
 

@@ -1,4 +1,4 @@
-/// Events that an object raises to whoever connected.
+/// Events that an object raises to connected handlers.
 #pragma once
 
 #include "htdrdd91/base/failure.h"
@@ -12,23 +12,23 @@
 
 namespace htdrdd {
 
-/// An event without arguments. It is raised on the caller's thread; a handler may connect and disconnect
-/// handlers, call back into the object and release it. A handler's failure is dropped.
+/// An event without arguments, raised on the caller's thread. A handler may connect and disconnect handlers,
+/// call back into the object and release it. A handler's failure is dropped.
 class Event {
 public:
     using Handler = std::function<void()>;
 
-    /// Gives a number to disconnect with.
+    /// Returns the number that Disconnect takes.
     std::int32_t Connect(Handler handler) {
         handlers_.push_back({last_ + 1, std::make_shared<const Handler>(std::move(handler))});
         return ++last_;
     }
-    /// The handler isn't called any more. A number that isn't connected changes nothing.
+    /// Stops calling a handler. An unknown number changes nothing.
     void Disconnect(std::int32_t connection) {
         std::erase_if(handlers_, [connection](const Entry& entry) { return entry.connection == connection; });
     }
-    /// Calls the handlers in the order in which they connected; one that connects meanwhile waits for the
-    /// next time. The caller keeps the object alive.
+    /// Calls the handlers in the order in which they connected. A handler that connects meanwhile waits for
+    /// the next Raise. The caller keeps the object alive.
     void Raise() const noexcept {
         const std::int32_t newest = last_;
         for (std::int32_t raised = 0; raised < newest;) {
@@ -37,7 +37,7 @@ public:
             });
             if (next == handlers_.end() || next->connection > newest) break;
             raised = next->connection;
-            const auto handler = next->handler; // held: it may disconnect itself
+            const auto handler = next->handler; // kept alive: the handler may disconnect itself
             IgnoreFailure(*handler);
         }
     }

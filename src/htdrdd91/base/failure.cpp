@@ -56,7 +56,7 @@ Failure CurrentFailure() noexcept {
     } catch (const Failure& failure) {
         try {
             return failure;
-        } catch (...) { // no memory for a copy of its text: the number still tells
+        } catch (...) { // no memory to copy the text: keep the number and the line
             return Failure(failure.Number(), Where{failure.Line()});
         }
     } catch (const std::bad_alloc&) { return Failure(Err::Memory); } catch (const std::length_error&) {

@@ -1,4 +1,4 @@
-/// Failures: the one exception of the library, its numbers and their texts.
+/// Failures: the library's only exception type, its numbers and their texts.
 #pragma once
 
 #include <cstdint>
@@ -7,8 +7,8 @@
 
 namespace htdrdd {
 
-/// Source line of a statement. A function that can fail takes `Where at = Where::current()` as its last
-/// argument, so that the line is that of the statement that called it; 0 means that none is known.
+/// Source line of a statement; 0 if unknown. A function that can fail takes `Where at = Where::current()` as
+/// its last argument, so that a failure carries the line of the calling statement.
 struct Where {
     int line = 0;
     static constexpr Where current(int line = __builtin_LINE()) noexcept { return {line}; }
@@ -43,16 +43,16 @@ enum class Err : std::int32_t {
     NotFound = 32811,
 };
 
-/// The standard description of a failure number; numbers without one share a general text.
+/// The standard description of a failure number; numbers without their own share a general text.
 [[nodiscard]] std::u16string_view ErrorText(std::int32_t number) noexcept;
 
-/// What a routine throws when it can't do what it was asked to. It ends in the failure tail of the routine
-/// that reports it and never leaves the library.
+/// The exception of a routine that fails. The failure tail of the routine that reports it catches it, so it
+/// never leaves the library.
 class Failure final : public std::exception {
 public:
     explicit Failure(Err number, Where at = {}) : Failure(static_cast<std::int32_t>(number), at) {}
     explicit Failure(std::int32_t number, Where at = {}) : number_(number), line_(at.line) {}
-    /// A failure that came from outside with a text of its own.
+    /// A failure from outside the library, with its own text.
     Failure(std::int32_t number, std::u16string text, Where at = {})
         : number_(number), line_(at.line), text_(std::move(text)) {}
 
@@ -69,16 +69,15 @@ private:
     std::u16string text_;
 };
 
-/// Failure number, line and text of the exception being handled, whatever its type. Call it in a handler
-/// only.
+/// Number, line and text of the exception being handled, of any type. Call only in a catch handler.
 [[nodiscard]] Failure CurrentFailure() noexcept;
 
-/// Runs one statement and drops its failure.
+/// Runs a statement and drops its failure.
 template <class Statement>
 void IgnoreFailure(const Statement& statement) noexcept {
     try {
         statement();
-    } catch (...) { // meant: the caller goes on whatever happened
+    } catch (...) { // intended: the caller goes on regardless
     }
 }
 

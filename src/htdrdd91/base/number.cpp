@@ -10,7 +10,7 @@
 namespace htdrdd {
 namespace {
 
-constexpr std::size_t kExactDigits = 15; ///< whole numbers of so many are doubles
+constexpr std::size_t kExactDigits = 15; ///< integers of up to this many digits are exact as doubles
 constexpr std::array<double, kExactDigits + 1> kTens{1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                      1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
@@ -18,14 +18,14 @@ constexpr bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 constexpr bool IsExponentMark(char16_t c) { return c == u'e' || c == u'E' || c == u'd' || c == u'D'; }
 constexpr bool IsSkipped(char16_t c) { return c == u' ' || c == u'\t' || c == u'\n'; }
 
-/// A number of digits, at most one "." and an exponent with "e", as std::from_chars takes it, into a double.
-/// What is too small is 0.
+/// Converts digits, at most one "." and an exponent with "e", in the syntax of std::from_chars, to a double.
+/// A number too small for a double is 0.
 double FromDigits(const std::string& digits, Where at) {
     double value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error != std::errc::result_out_of_range) return value;
 
-    // Too large or too small: the place of the first digit that counts decides.
+    // Too large or too small: the place of the first significant digit decides.
     const std::size_t mark = std::min(digits.find('e'), digits.size());
     const std::size_t point = std::min(digits.find('.'), mark);
     const std::size_t first = digits.find_first_of("123456789");
@@ -74,7 +74,7 @@ private:
     bool any_ = false;
 };
 
-/// The base that the letter behind "&" names, 0 for any other letter.
+/// The base that the letter after "&" names; 0 for any other letter.
 unsigned BaseOf(char16_t letter) {
     switch (UpperUnit(letter)) {
     case u'H': return 16;
@@ -83,7 +83,7 @@ unsigned BaseOf(char16_t letter) {
     }
 }
 
-/// At most 15 significant digits with "." and with the zero in front of it.
+/// At most 15 significant digits, with "." as decimal mark and a zero before it.
 std::string SignificantDigits(double value) {
     std::array<char, 32> buffer{};
     if (value == std::trunc(value) && std::fabs(value) < 1e15) {
@@ -109,7 +109,7 @@ double Quotient(double dividend, double divisor, Where at) {
     return InRange(dividend / divisor, at);
 }
 
-// Straight to the double: both numbers of the division are exact, so its result is the nearest double.
+// The dividend and the divisor are exact, so the quotient is the nearest double.
 std::optional<double> PlainNumber(TextView text) noexcept {
     const bool negative = !text.empty() && text[0] == u'-';
     if (negative) text.remove_prefix(1);
@@ -138,7 +138,7 @@ double LeadingNumber(TextView text, Where at) {
     if (const auto plain = PlainNumber(text)) return *plain;
 
     std::string kept;
-    std::size_t complete = 0; // how much of `kept` is a number, without an exponent that has no digits
+    std::size_t complete = 0; // length of the valid number in `kept`, without an exponent that has no digits
     bool point = false;
     bool exponent = false;
     bool digits = false;
@@ -275,7 +275,7 @@ Text FixedText(double value, std::int32_t places, Where at) {
     if (places < 0) throw Failure(Err::Argument, at);
     if (!std::isfinite(value)) throw Failure(Err::Overflow, at);
 
-    // d.dddddddddddddde+xx: the digits and how many of them stand in front of the decimal mark
+    // d.dddddddddddddde+xx: extract the digits and the count of digits before the decimal mark
     std::array<char, 32> buffer{};
     char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                                     std::chars_format::scientific, kDigits - 1)
@@ -288,7 +288,7 @@ Text FixedText(double value, std::int32_t places, Where at) {
     ++whole;
     std::string digits = scientific.substr(0, 1) + scientific.substr(2, mark - 2);
 
-    // Zeros in front up to the decimal mark, then the cut, half away from zero.
+    // Add leading zeros up to the decimal mark, then round half away from zero.
     if (whole < 1) {
         digits.insert(0, static_cast<std::size_t>(1 - whole), '0');
         whole = 1;
@@ -316,7 +316,8 @@ Text FixedText(double value, std::int32_t places, Where at) {
 std::optional<double> FixedNumber(double value, std::int32_t places) noexcept {
     constexpr std::int32_t kMostPlaces = 6;
     constexpr double kMostUnits = 1e9;
-    constexpr double kNearTie = 1e-5; // more than 15 digits and the multiplication can move so many units
+    constexpr double kNearTie = 1e-5; // digits beyond the 15th and the multiplication can shift `units` by
+                                      // this much
     if (places < 0 || places > kMostPlaces) return {};
     const double one = kTens[static_cast<std::size_t>(places)];
     const double units = std::fabs(value) * one;

@@ -8,7 +8,7 @@
 
 namespace htdrdd {
 
-/// A collection of numbers that is handed out by reference.
+/// A collection of numbers that is passed by reference.
 class NumberCollection final : public Object, public Collection<std::int32_t> {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"NumberCollection"; }

@@ -11,7 +11,7 @@
 
 namespace htdrdd {
 
-/// What outside hosts hold of an object: it ends with the object.
+/// Base of faces. A face is an object as outside hosts see it, and ends with the object.
 class OutsideFace {
 public:
     OutsideFace() = default;
@@ -20,8 +20,8 @@ public:
     virtual ~OutsideFace() = default;
 };
 
-/// Base of everything that can be referred to. It is made with Make, never on the stack, and ends with its
-/// last reference. An object and all references to it belong to one thread at a time.
+/// Base of all shared objects. An object is created with Make, never on the stack, and ends with its last
+/// reference. An object and all references to it belong to one thread at a time.
 class Object {
 public:
     Object() = default;
@@ -30,17 +30,17 @@ public:
     Object(Object&&) = delete;
     Object& operator=(Object&&) = delete;
 
-    /// The name under which outside hosts know the class; empty for classes that they don't see.
+    /// The class name that outside hosts know; empty for classes that they don't see.
     [[nodiscard]] virtual TextView ClassName() const noexcept { return {}; }
 
-    /// The count of references, which Ref and outside faces keep. Both give what it is then.
+    /// The reference count, which Ref and outside faces keep. Both return the new count.
     std::uint32_t AddRef() const noexcept { return ++references_; }
     std::uint32_t Release() const noexcept {
         const std::uint32_t left = --references_;
         if (left == 0) delete this;
         return left;
     }
-    /// The slot of the object's one face; empty until an outside host sees the object.
+    /// The object's only face; empty until an outside host sees the object.
     [[nodiscard]] std::unique_ptr<OutsideFace>& Face() const noexcept { return face_; }
 
 protected:
@@ -51,8 +51,8 @@ private:
     mutable std::unique_ptr<OutsideFace> face_;
 };
 
-/// A shared reference, possibly empty. Assigning replaces the reference, nothing is copied. Using an empty
-/// one fails with 91.
+/// A shared reference, possibly empty. Assignment replaces the reference and copies no object. Using an empty
+/// reference fails with 91.
 template <class T>
 class Ref {
 public:
@@ -101,15 +101,15 @@ template <class T, class... Arguments>
     return Ref<T>(new T(std::forward<Arguments>(arguments)...));
 }
 
-/// Holds an object to the end of a scope. Whatever may reach a host holds the objects that it works on: a
-/// report, a message or an event may make the host release or replace them.
+/// Keeps an object alive to the end of a scope. Code that may call a host holds the objects that it works on:
+/// during a report, a message or an event the host may release or replace them.
 template <class T>
 [[nodiscard]] Ref<T> Held(T& object) {
     return Ref<T>(&object);
 }
 
-/// A reference whose object is made on first access: it never reads as empty. It can't be copied, for a copy
-/// would make an object of its own: `Ref<T> r = lazy;` refers to the same one.
+/// A reference whose object is created on first access, so it is never empty. It is not copyable, since a
+/// copy would create its own object; `Ref<T> r = lazy;` refers to the same object.
 template <class T>
 class LazyRef {
 public:
@@ -123,8 +123,7 @@ public:
         original_ = nullptr;
         return *this;
     }
-    /// Lets the object that is made on first access be a copy of another, which nobody may change from now
-    /// on.
+    /// Makes the first access copy `original`, which nobody may change from now on.
     void MakeCopyOf(Ref<const T> original) noexcept {
         object_ = nullptr;
         original_ = std::move(original);
@@ -132,7 +131,7 @@ public:
     operator const Ref<T>&() const { return Made(); }
     T* operator->() const { return Made().Get(); }
     T& operator*() const { return *Made(); }
-    /// The object, or the one that it will be a copy of: enough to look at it, and nothing is copied.
+    /// The object, or the original that the first access will copy. Read-only access without a copy.
     [[nodiscard]] const T& Peek() const { return original_ ? *original_ : *Made(); }
 
 private:

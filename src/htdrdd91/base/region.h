@@ -1,4 +1,4 @@
-/// The region: how people of this machine write numbers and dates.
+/// The region: the local formats of numbers and dates.
 #pragma once
 
 #include "htdrdd91/base/text.h"
@@ -11,10 +11,10 @@ struct Region {
     char16_t decimalMark = u'.';
     char16_t groupMark = u','; ///< 0: none
     Text currencySign = u"$";
-    std::string dateForm = "%-m/%-d/%Y %-I:%M:%S %p"; ///< date and time, as strftime takes it
+    std::string dateForm = "%-m/%-d/%Y %-I:%M:%S %p"; ///< date and time, as a strftime format
 };
 
-/// The region of this thread, at first that of the machine. Assign to it to choose another. Defined in
+/// The region of this thread, initially that of the machine. Assign to it to choose another. Defined in
 /// platform/thread_state.cpp.
 [[nodiscard]] Region& CurrentRegion();
 

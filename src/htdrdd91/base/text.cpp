@@ -31,7 +31,7 @@ bool SameText(TextView a, TextView b, Compare mode) noexcept {
 
 bool SameInUpperCase(TextView a, TextView b) noexcept {
     if (a.size() != b.size()) return false;
-    // Keys mostly stand in the case that is asked for, and bytes compare faster than units.
+    // Most keys are already in the requested case, and bytes compare faster than units.
     if (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0) return true;
     return EqualUnits(a, b, [](char16_t x, char16_t y) { return x == y || UpperUnit(x) == UpperUnit(y); });
 }

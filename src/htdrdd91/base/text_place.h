@@ -1,11 +1,11 @@
-/// Texts of a caller that a routine changes.
+/// References to a caller's text that a routine changes.
 #pragma once
 
 #include "htdrdd91/base/text.h"
 
 namespace htdrdd {
 
-/// A text by reference, wherever it lives: a Text, or one of an outside host. A change is there at once.
+/// A reference to a text, either a Text or a text of an outside host. A change takes effect at once.
 class TextPlace {
 public:
     using Read = TextView (*)(const void* place);
@@ -17,7 +17,7 @@ public:
               [](void* place, TextView changed) { *static_cast<Text*>(place) = changed; }) {}
     TextPlace(void* place, Read read, Write write) noexcept : place_(place), read_(read), write_(write) {}
 
-    /// The text, until it changes.
+    /// The text; valid until it changes.
     [[nodiscard]] TextView Get() const { return read_(place_); }
     void Set(TextView text) const { write_(place_, text); }
 

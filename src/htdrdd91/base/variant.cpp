@@ -6,7 +6,7 @@
 namespace htdrdd {
 namespace {
 
-/// What a value without number or text fails with.
+/// Throws the failure for a value that has no number or text.
 [[noreturn]] void Refuse(const Variant& value, Where at) {
     switch (value.Is()) {
     case Variant::Kind::Missing: throw Failure(Err::ArgumentMissing, at);

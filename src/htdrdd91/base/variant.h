@@ -1,4 +1,4 @@
-/// Values of any kind, as late-bound members take and give them.
+/// Values of any kind, as late-bound members take and return them.
 #pragma once
 
 #include "htdrdd91/base/array.h"
@@ -12,8 +12,8 @@
 
 namespace htdrdd {
 
-/// A value of any kind. "Missing" is an optional argument that was left out; "empty" was never filled;
-/// "other" is a value from outside that can't be held, only refused.
+/// A value of any kind. "Missing" is an omitted optional argument; "empty" was never set; "other" is a value
+/// from outside that can't be stored, only refused.
 class Variant {
 public:
     enum class Kind {
@@ -41,7 +41,7 @@ public:
     /// A reference, which may be empty.
     template <std::derived_from<Object> T>
     Variant(const Ref<T>& value) : value_(Ref<Object>(value)) {}
-    /// An array, which copies of the value share and nobody changes.
+    /// An immutable array, shared by copies of the value.
     Variant(Array<Variant> values) : value_(std::make_shared<const Array<Variant>>(std::move(values))) {}
     static Variant Empty() { return Variant(Storage(std::in_place_index<1>)); }
     static Variant Null() { return Variant(Storage(std::in_place_index<2>)); }
@@ -49,7 +49,7 @@ public:
 
     [[nodiscard]] Kind Is() const noexcept { return static_cast<Kind>(value_.index()); }
     [[nodiscard]] bool IsMissing() const noexcept { return Is() == Kind::Missing; }
-    /// The text, reference or array as it is held, or a null pointer where the value is of another kind.
+    /// The stored text, reference or array, or a null pointer if the value is of another kind.
     [[nodiscard]] const Text* AsText() const noexcept { return std::get_if<Text>(&value_); }
     [[nodiscard]] const Ref<Object>* AsObject() const noexcept { return std::get_if<Ref<Object>>(&value_); }
     [[nodiscard]] const Array<Variant>* AsArray() const noexcept {
@@ -57,10 +57,10 @@ public:
         return values != nullptr ? values->get() : nullptr;
     }
 
-    /// Conversions. Empty is 0, false and the empty text; texts are read and numbers are written by the rules
-    /// of the region; any number but 0 is true. Null fails with 94, missing with 449, an empty
-    /// reference with 91, any other with 438, an array, another value and a text that is no number with 13, a
-    /// number out of range with 6.
+    /// Conversions. Empty is 0, false and the empty text. Texts are read and numbers are written by the rules
+    /// of the region; any number except 0 is true. Null fails with 94, missing with 449, an empty reference
+    /// with 91, any other reference with 438. An array, a value of kind Other and a text that is not a number
+    /// fail with 13, a number out of range with 6.
     [[nodiscard]] double ToDouble(Where at = Where::current()) const;
     [[nodiscard]] std::int32_t ToInteger32(Where at = Where::current()) const;
     [[nodiscard]] std::int16_t ToInteger16(Where at = Where::current()) const;
@@ -83,10 +83,12 @@ private:
 class Index;
 class NewKey;
 
-/// A value as the index of a list: texts are keys, numbers positions, rounded; a missing one names nothing.
-/// It refers to the value's text. Any other kind can't name an entry (13, null 94, a number out of range 6).
+/// A value as the index of a list: a text is a key, a number is a position, rounded; a missing value names no
+/// entry. The index refers to the value's text. Any other kind matches no entry (failure 13; null 94; a
+/// number out of range 6).
 [[nodiscard]] Index IndexOf(const Variant& value) noexcept;
-/// A value as the key of a new entry: a text, or none where it is missing. No other kind can be one (13).
+/// A value as the key of a new entry: a text, or no key if the value is missing. Any other kind is unusable
+/// (13).
 [[nodiscard]] NewKey NewKeyOf(const Variant& value) noexcept;
 
 } // namespace htdrdd

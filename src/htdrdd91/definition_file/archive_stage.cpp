@@ -14,7 +14,7 @@ constexpr int kMostTries = 10;
 
 } // namespace
 
-/// Character by character: it stands nowhere in one piece.
+/// Computed character by character; stored nowhere in one piece.
 Text ArchivePassword() {
     Text password;
     for (const int step : {7, 52, 31, 88, 19, 64, 45, 73, 26, 11, 80, 38, 59, 94})
@@ -41,7 +41,7 @@ std::optional<Text> ArchiveStage::Open(TextView sFile, Where at) {
         files.CopyFile(sFile, copy, kOwnerOnly, at);
         Array<Text> members;
         std::int32_t number = 0;
-        // This alone tells archives from plain text; one that is damaged counts as text, too.
+        // This alone distinguishes archives from plain text; a damaged archive counts as text, too.
         if (!Make<clsDZip>()->UnZip(copy, folder, members, number, password)) return Text(sFile);
         if (number != 1) {
             ShowInvalidFile(u"The specified file is invalid or corrupt. Operation aborted.", at);
@@ -49,7 +49,7 @@ std::optional<Text> ArchiveStage::Open(TextView sFile, Where at) {
         }
         text = BuildPath(folder, members.At(1, at));
         if (files.FileExists(text) && !files.Read(text, 1, at).View().empty()) break;
-        Close(at); // This is meant: an empty text is taken out anew, and in the end isn't there.
+        Close(at); // This is meant: an empty text is extracted again, and after the last try it is missing.
     }
     return text;
 }

@@ -9,16 +9,16 @@
 
 namespace htdrdd::basTemplate {
 
-/// The password of all archives, built anew for everybody who asks.
+/// The password of all archives, computed anew by each call.
 [[nodiscard]] Text ArchivePassword();
 
-/// Finds the text of a definition: the file itself, or the one file in it where it is an archive.
+/// Finds the text of a definition: the file itself or, if it is an archive, the one file in it.
 class ArchiveStage {
 public:
-    /// The file to read the text from, which lasts as long as this object. None, with a stop message, where
-    /// no temporary folder can be made and for an archive of more than one file.
+    /// The file that contains the text; it exists as long as this object. Returns std::nullopt, with a stop
+    /// message, if the temporary folder can't be created or the archive contains more than one file.
     [[nodiscard]] std::optional<Text> Open(TextView sFile, Where at = Where::current());
-    /// Deletes the temporary folder now and fails to the caller.
+    /// Deletes the temporary folder now. A failure passes to the caller.
     void Close(Where at = Where::current()) const;
 
 private:

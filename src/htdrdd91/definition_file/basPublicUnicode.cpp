@@ -16,7 +16,7 @@ bool StartsWithMark(FileSystem& files, TextView file, Where at = Where::current(
     return files.Read(file, 2, at).View() == kUtf16Mark;
 }
 
-/// What stands behind the last point of a file name; empty where there is none.
+/// The part of a file name after its last point; empty if there is none.
 TextView ExtensionOf(TextView name) {
     const std::size_t point = name.rfind(u'.');
     return point == TextView::npos ? TextView() : name.substr(point + 1);
@@ -29,7 +29,7 @@ bool IsUnicodeFile(TextView sFile, TextView sPassword) noexcept {
     try {
         FileSystem& files = CurrentFileSystem();
         if (!files.FileExists(sFile)) return false;
-        if (!EndsLikeZip(files, sFile)) return StartsWithMark(files, sFile); // nothing to take out of it
+        if (!EndsLikeZip(files, sFile)) return StartsWithMark(files, sFile); // no archive
         const Temporary folder;
         files.CreateFolder(folder.Path());
         const Temporary copy;

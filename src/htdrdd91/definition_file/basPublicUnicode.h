@@ -6,12 +6,13 @@
 
 namespace htdrdd::basPublic {
 
-/// Whether a file's text starts with the byte order mark of UTF-16, little-endian. For an archive that opens
-/// with the password, that is the text of its one member, of several the first with the extension of sFile,
-/// and the archive itself where none has it. False for a missing file and after a failure, which is reported.
+/// Whether a file's text starts with the byte order mark of little-endian UTF-16. If the file is an archive
+/// that opens with the password, its text is its only member, or the first of several members with the
+/// extension of sFile, or the archive itself if none has it. False for a missing file and after a failure,
+/// which is reported.
 [[nodiscard]] bool IsUnicodeFile(TextView sFile, TextView sPassword) noexcept;
 
-/// How to open the text of a file by what IsUnicodeFile says of it.
+/// The encoding of a file's text, according to IsUnicodeFile.
 [[nodiscard]] inline Encoding EncodingOf(TextView sFile) noexcept {
     return IsUnicodeFile(sFile, {}) ? Encoding::Unicode : Encoding::CodePage;
 }

@@ -35,8 +35,8 @@ struct Reading {
 bool ReadVersionsSection(Reading& r) {
     if (r.rdd.ReportType != HTDReportTypeGenericGrade)
         return ReadVersions(r.lines, *r.rdd.Versions, r.lNumQuestions);
-    // This is meant: nothing is read and the line stays, so the loop meets it again and never ends. A generic
-    // key must not hold this section, and no writer makes one.
+    // This is meant: nothing is read and the current line stays, so the loop in ReadSections never ends. A
+    // generic key must not contain this section, and no writer writes it.
     std::this_thread::yield();
     return r.sectionRead;
 }
@@ -66,7 +66,7 @@ constexpr std::array kSections{
             [](Reading& r) { return ReadQuestion(r.lines, r.lNumSubtests, *r.rdd.Questions); }},
 };
 
-/// False where a section reader failed or the first line is no section line.
+/// Returns false if a section reader failed or the first line isn't a section line.
 bool ReadSections(Reading& r, Where at = Where::current()) {
     while (!r.lines.AtEnd()) {
         if (!r.lines.HoldsSectionLine()) r.lines.Next(at);
@@ -81,7 +81,7 @@ bool ReadSections(Reading& r, Where at = Where::current()) {
     return true;
 }
 
-/// Whether what was found is what the file announced; complains of the first count that isn't.
+/// Whether the counts match those that the file announces; complains about the first that doesn't.
 bool CountsMatch(const Reading& r, Where at = Where::current()) {
     const auto fails = [at](TextView what) {
         ShowInvalidFile(Text(u"An error occurred reading the configuration file. ").append(what), at);
@@ -100,9 +100,9 @@ bool CountsMatch(const Reading& r, Where at = Where::current()) {
     return true;
 }
 
-/// Reads a definition file into an object, which is cleared first. False, with the object as it was, for a
-/// file that isn't there; otherwise the object holds what was read up to the end. A broken file is complained
-/// of through the host; one whose first line is no section line is refused in silence.
+/// Reads a definition file into an object, which is cleared first. Returns false for a missing file, with the
+/// object unchanged; otherwise the object holds everything that was read. A broken file leads to a complaint
+/// through the host; a file whose first line isn't a section line is refused without a report.
 bool ReadDefinition(TextView sFile, clsHTDRDD& oRDD) noexcept {
     bool result = false;
     ArchiveStage archive;

@@ -18,7 +18,7 @@ namespace htdrdd {
 namespace basTemplate {
 namespace {
 
-/// What this save writes by.
+/// State of one save.
 struct Saving {
     clsHTDRDD& rdd;
     TextWriter& out;
@@ -32,7 +32,7 @@ void WriteSubtests(const Saving& s) {
         WriteSubtest(s.out, *s.rdd.Subtests->Item(l), document, l > 1, s.decimalMark);
 }
 
-/// The overall learning objective has the say over what the document holds for all.
+/// The document copies the grade scale and the scaled score of the overall learning objective.
 void TakeOverOverall(clsHTDRDD& rdd) {
     if (rdd.Subtests->Count() == 0) return;
     const auto overall = rdd.Subtests->Item(1);
@@ -48,8 +48,8 @@ void WriteScale(const Saving& s, TextView section, const clsHTDRDDGradeScale& sc
     s.out.WriteLine({});
 }
 
-/// Whether versions that can't be graded together are saved all the same. This is meant: nothing is removed
-/// from them, although the question sounds so.
+/// Whether to save versions that can't be graded together. This is meant: the versions are saved in full,
+/// although the question suggests otherwise.
 bool VersionsMayBeSaved(const clsHTDRDD& rdd, bool bVerbose) {
     if (rdd.Versions->VType() == HTDVersionTypeNone || rdd.ValidateVersions(bVerbose) || !bVerbose)
         return true;
@@ -67,7 +67,7 @@ void WriteQuestions(const Saving& s) {
     }
 }
 
-/// False where the user declines.
+/// Returns false if the user declines.
 bool WriteText(const Saving& s, bool bVerbose) {
     WriteReport(s.out, s.rdd);
     WriteSubtests(s);
@@ -86,11 +86,10 @@ bool WriteText(const Saving& s, bool bVerbose) {
     return true;
 }
 
-/// Writes a definition to a temporary file, makes way where sFile is there, and puts the new file in its
-/// place, as an archive or as the text itself. The definition takes its grade scale and its scaled score over
-/// from learning objective 1, whatever comes of the save. Whether sFile is there at the end; false where the
-/// user declines to save invalid test versions, and after a failure, which is reported and leaves the
-/// temporary file.
+/// Writes a definition to a temporary file, makes way if sFile exists, and puts the new file in its place, as
+/// an archive or as the text itself. The definition copies the grade scale and the scaled score of learning
+/// objective 1, even if the save fails. Returns whether sFile exists at the end; false if the user declines
+/// to save invalid test versions, and after a failure, which is reported and leaves the temporary file.
 bool WriteDefinition(TextView sFile, clsHTDRDD& oRDD, bool bEncrypt, bool bVerbose) noexcept {
     bool result = false;
     try {
@@ -108,8 +107,8 @@ bool WriteDefinition(TextView sFile, clsHTDRDD& oRDD, bool bEncrypt, bool bVerbo
         }
         const TargetFile target(sFile);
         target.MakeWay(password);
-        // This is meant: the text behind an archive stays in the temporary folder, and only whether there is
-        // a file at the end makes the result.
+        // This is meant: the text of an archive stays in the temporary folder, and the result only says
+        // whether a file exists at the end.
         if (bEncrypt) {
             Make<clsDZip>()->Zip(target.Path(), temporary, password);
             target.RestoreRights();

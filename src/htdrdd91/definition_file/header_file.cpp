@@ -23,7 +23,7 @@ bool clsHTDRDD::SaveHeader(TextView sHeaderFile) noexcept {
         out.Close();
         const basTemplate::TargetFile target(sHeaderFile);
         target.MakeWay({});
-        temporary.Keep(); // with the old file gone it is all there is
+        temporary.Keep(); // the old file is gone: this is the only copy
         target.Put(text);
         result = files.FileExists(sHeaderFile);
     } catch (...) { ReportFailure(u"clsHTDRDD.SaveHeader"); }
@@ -34,7 +34,7 @@ bool clsHTDRDD::LoadHeader(TextView sHeaderFile) noexcept {
     bool result = false;
     try {
         const auto self = Held(*this);
-        const Ref<Dictionary> header = Header; // a report may make the host replace it
+        const Ref<Dictionary> header = Header; // a report may release it
         basPublic::InitializeHeader(header);
         TextReader stream(CurrentFileSystem(), sHeaderFile, basPublic::EncodingOf(sHeaderFile));
         basTemplate::SectionLines lines(stream);

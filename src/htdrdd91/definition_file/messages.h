@@ -5,7 +5,7 @@
 
 namespace htdrdd::basTemplate {
 
-/// Shows what is wrong with a file. Fails with 91 without a host, and as the host fails.
+/// Shows a stop message about an invalid file. Fails with 91 without a host, and as the host fails.
 inline void ShowInvalidFile(TextView sMessage, Where at = Where::current()) {
     ShowStopMessage(u"Invalid File", sMessage, {}, at);
 }

@@ -25,10 +25,10 @@ struct Section {
     clsHTDRDDQuestion& question;
     std::int32_t lNumSubtests = 0;
     bool pointsSeen = false;                  ///< the section holds a SubjectivePoints key
-    std::vector<Membership> memberships = {}; ///< as they come; entered at the section's end
+    std::vector<Membership> memberships = {}; ///< in file order; applied at the section's end
 };
 
-/// One question on its way into a file.
+/// A question to be written.
 struct FiledQuestion {
     const clsHTDRDDQuestion& question;
     bool generic;
@@ -48,7 +48,7 @@ constexpr Row Own(TextView key, bool (*isWritten)(const FiledQuestion&) = nullpt
 }
 bool NotGeneric(const FiledQuestion& filed) { return !filed.generic; }
 
-/// Bounds of a numeric question. This is meant: they are filed with the region's decimal mark, and where that
+/// Bounds of a numeric question. This is meant: they are written with the region's decimal mark, and if that
 /// is a comma, reading stops at it.
 template <auto Field>
 constexpr Row Bound(TextView key) {
@@ -62,7 +62,7 @@ constexpr Row Bound(TextView key) {
     return row;
 }
 
-/// Older files hold the boolean -1 here, which stands for HTDMultiplesPermittedAll.
+/// Older files contain the boolean -1, which stands for HTDMultiplesPermittedAll.
 void ReadMultiplesPermitted(Section& section, TextView value, Where at) {
     std::int16_t permitted = 0;
     ReadValue(value, permitted, at);
@@ -74,7 +74,7 @@ void ReadSubjectivePoints(Section& section, TextView value, Where at) {
     section.pointsSeen = true;
 }
 
-/// One entry: the learning objective's position and perhaps, behind a comma, the weight there.
+/// One entry: the learning objective's position and optionally, after a comma, the weight.
 void ReadMembership(Section& section, TextView entry, Where at) {
     if (entry.empty()) throw Failure(Err::Subscript, at); // an empty text has no first part
     const std::size_t comma = entry.find(u',');
@@ -91,7 +91,7 @@ void ReadMembership(Section& section, TextView entry, Where at) {
 
 void ReadMemberships(Section& section, TextView value, Where at) {
     EachPiece(value, u"\t", [&](TextView entry) { ReadMembership(section, entry, at); });
-    // The overall one, whatever the list says.
+    // A question is in the overall learning objective, whatever the list says.
     if (section.question.Subtests->Exists(1)) section.memberships.push_back({1, {}});
 }
 
@@ -109,7 +109,7 @@ void AppendMemberships(Text& line, const FiledQuestion& filed, Where at) {
     });
 }
 
-/// The answer texts aren't filed in a generic key, so that their positions stand for them.
+/// A generic key doesn't store the answer texts, so their positions stand for them.
 void AppendCorrectAnswers(Text& line, const FiledQuestion& filed, Where /*at*/) {
     if (filed.generic && filed.question.AnswerValues->Count() > 0)
         line += basPublic::CorrectAnswerToIndices(filed.question, 1);
@@ -117,7 +117,7 @@ void AppendCorrectAnswers(Text& line, const FiledQuestion& filed, Where /*at*/) 
         AppendValue(line, filed.question.CorrectAnswers);
 }
 
-/// Enters the memberships in the order of their positions, so that a list in any order costs no more.
+/// Applies the memberships in the order of their positions, so a list in any order costs the same.
 void EnterMemberships(Section& section, Where at = Where::current()) {
     auto& entries = section.memberships;
     const auto before = [](const Membership& a, const Membership& b) { return a.position < b.position; };
@@ -180,7 +180,7 @@ constexpr std::array kRows{
 };
 static_assert(kRows.size() == kMemberCount<clsHTDRDDQuestion>, "Each member of a question has a row.");
 
-/// What keeps older files working.
+/// Repairs for older files.
 void Repair(const Section& section, Where at = Where::current()) {
     clsHTDRDDQuestion& question = section.question;
     if (question.PartialCredit && question.CorrectAnswerPoints->Item(1).empty())

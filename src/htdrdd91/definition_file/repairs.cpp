@@ -9,8 +9,8 @@ void RepairDefinition(clsHTDRDD& oRDD) {
     const auto hasRows = [](const clsHTDRDDGradeScale& scale) { return scale.Count() > 0; };
     if (!hasRows(*oRDD.SubtestGradeScale) && hasRows(*oRDD.GradeScale))
         oRDD.SubtestGradeScale = oRDD.GradeScale->Copy();
-    // Each learning objective gets a copy of its own, but not before somebody looks at it: many objectives
-    // and a long scale would take memory out of all proportion to the file.
+    // Each learning objective gets its own copy, but only on first access: many learning objectives with a
+    // long scale would take memory out of all proportion to the file.
     const auto giveScale = [&](std::int32_t position, const Ref<const clsHTDRDDGradeScale>& original) {
         const auto subtest = oRDD.Subtests->Item(position);
         if (!hasRows(*subtest->GradeScale)) subtest->GradeScale.MakeCopyOf(original);

@@ -5,8 +5,9 @@
 
 namespace htdrdd::basTemplate {
 
-/// Makes a definition from a file of any age look like a current one: a sequence, an overall learning
-/// objective, and the document's grade scales on the learning objectives that have none. Fails to the caller.
+/// Brings a definition from a file of any age to the current form: it gets a sequence and an overall learning
+/// objective, and learning objectives without a grade scale or a usable scaled score get copies of the
+/// document's. A failure passes to the caller.
 void RepairDefinition(clsHTDRDD& oRDD);
 
 } // namespace htdrdd::basTemplate

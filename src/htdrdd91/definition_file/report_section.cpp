@@ -26,7 +26,7 @@ constexpr Row Own(TextView key) {
 void IgnoreValue(Report& /*report*/, TextView /*value*/, Where /*at*/) {}
 bool Never(const Report& /*report*/) { return false; }
 
-/// Older files name all learning objectives here.
+/// Older files list the names of all learning objectives here.
 void ReadSubtestNames(Report& report, TextView value, Where /*at*/) {
     EachPiece(value, u"\t", [&](TextView name) {
         if (name.empty()) return;
@@ -36,7 +36,7 @@ void ReadSubtestNames(Report& report, TextView value, Where /*at*/) {
     });
 }
 
-/// In the order of writing; the last two stand in older files only.
+/// In the order of writing; the last two occur only in older files.
 constexpr std::array kRows{
     Own<&clsHTDRDD::TemplateName>(u"TemplateName"),
     PlainRow<Report, &Report::lNumQuestions>(u"NumQuestions"),

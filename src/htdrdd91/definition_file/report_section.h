@@ -8,12 +8,12 @@
 
 namespace htdrdd::basTemplate {
 
-/// Reads the document's own members and the counts that the file announces. False, with a stop message, where
-/// nothing stands behind the section, and after a failure, which is reported.
+/// Reads the document's own members and the counts that the file announces. Returns false, with a stop
+/// message, if nothing follows the section, and false after a failure, which is reported.
 [[nodiscard]] bool ReadReport(SectionLines& lines, clsHTDRDD& oRDD, std::int32_t& lNumQuestions,
                               std::int32_t& lNumVersions, std::int32_t& lNumSubtests) noexcept;
 
-/// Writes the section and the blank line behind it.
+/// Writes the section and a blank line.
 void WriteReport(TextWriter& out, clsHTDRDD& oRDD);
 
 } // namespace htdrdd::basTemplate

@@ -8,25 +8,25 @@
 
 namespace htdrdd::basTemplate {
 
-/// The keys of a grade scale, which is held: a report may make the host replace it. The name goes to the
-/// scale at once, the rest is kept up to the section's end.
+/// The keys of a grade scale, which is held: a report may release it. The name goes to the scale at once; the
+/// other values are kept until the section's end.
 struct ScaleKeys {
     Ref<clsHTDRDDGradeScale> scale;
-    std::int32_t numValues = 0; ///< number of rows that the section announces
+    std::int32_t numValues = 0; ///< without storage until the key is read, like startValues
     Array<Text> grades{};       ///< both without storage until the key is read
     Array<Text> startValues{};
 
-    /// False for a key of something else.
+    /// Returns false if the key doesn't belong to a grade scale.
     bool Take(const SectionLines::Pair& pair, Where at = Where::current());
-    /// Adds the rows behind those that the scale has. Whether it has as many as announced then.
+    /// Adds the rows after those that the scale has. Returns whether it then has the announced number.
     [[nodiscard]] bool AddRows() const;
 };
 
-/// Adds the rows of a section to a grade scale. False, with a stop message, where they don't match NumValues
-/// or are none, and after a failure, which is reported; rows added up to then stay.
+/// Adds the rows of a section to a grade scale. Returns false, with a stop message, if their number doesn't
+/// match NumValues or is 0, and false after a failure, which is reported; rows added before it stay.
 [[nodiscard]] bool ReadScale(SectionLines& lines, clsHTDRDDGradeScale& oScale) noexcept;
 
-/// Writes the keys, with "." in place of the decimal mark in start values, which are texts.
+/// Writes the keys. In start values, which are texts, "." replaces the decimal mark.
 void WriteScaleKeys(TextWriter& out, const clsHTDRDDGradeScale& oScale, TextView sDecimalMark,
                     Where at = Where::current());
 

@@ -6,7 +6,7 @@
 
 namespace htdrdd::basTemplate {
 
-/// Fills a scaled score. False after a failure, which is reported; what was read before stays.
+/// Fills a scaled score. Returns false after a failure, which is reported; values read before it stay.
 [[nodiscard]] bool ReadScaledScore(SectionLines& lines, clsHTDRDDScaledScore& oScaledScore) noexcept;
 
 } // namespace htdrdd::basTemplate

@@ -1,4 +1,4 @@
-/// Sections whose keys stand in a table.
+/// Sections whose keys are in a table.
 #pragma once
 
 #include "htdrdd91/definition_file/section_lines.h"
@@ -7,7 +7,7 @@
 
 namespace htdrdd::basTemplate {
 
-/// Reads a section whose keys all stand in one table. Keys that don't are ignored.
+/// Reads a section whose keys are all in one table. Other keys are ignored.
 template <class Target, class Source, std::size_t N>
 void ReadRows(SectionLines& lines, const std::array<MemberRow<Target, Source>, N>& rows, Target& target,
               Where at = Where::current()) {
@@ -17,7 +17,7 @@ void ReadRows(SectionLines& lines, const std::array<MemberRow<Target, Source>, N
         if (const auto* row = finder.Find(pair.key)) row->put(target, pair.value, at);
 }
 
-/// Writes a line for each row, where it has one.
+/// Writes a line for each row, unless isWritten excludes it.
 template <class Row, class Source, std::size_t N>
 void WriteRows(TextWriter& out, const std::array<Row, N>& rows, const Source& source,
                Where at = Where::current()) {

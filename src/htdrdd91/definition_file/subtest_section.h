@@ -6,13 +6,13 @@
 
 namespace htdrdd::basTemplate {
 
-/// Reads one learning objective with its grade scale and its scaled score, and adds it. False, with a stop
-/// message, where the rows of the scale don't match NumValues, and after a failure, which is reported;
-/// nothing is added then.
+/// Reads one learning objective with its grade scale and its scaled score, and adds it. Returns false, with a
+/// stop message, if the rows of the scale don't match NumValues, and false after a failure, which is
+/// reported; nothing is added then.
 [[nodiscard]] bool ReadSubtest(SectionLines& lines, clsHTDRDDSubtests& oSubtests) noexcept;
 
-/// Writes one learning objective and the blank line behind it: its grade scale where it has rows, its scaled
-/// score where it can be used, with learning objectives searched in oRDD.
+/// Writes one learning objective and a blank line: its grade scale if it has rows, its scaled score if it is
+/// usable. The scaled score's learning objectives are searched in oRDD.
 void WriteSubtest(TextWriter& out, const clsHTDRDDSubtest& oSubtest, const Variant& oRDD,
                   bool bForLearningObjective, TextView sDecimalMark, Where at = Where::current());
 

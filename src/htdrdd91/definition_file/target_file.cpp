@@ -19,7 +19,7 @@ void TargetFile::MakeWay(TextView sPassword, Where at) const {
     if (!files.FileExists(path_)) return;
     if (basPublic::IsUnicodeFile(path_, sPassword))
         files.DeleteFile(path_, at);
-    else // older readers can't take the new one
+    else // older readers can't read the new one
         basPublic::FileBackup(path_, true, kRetries);
 }
 

@@ -1,4 +1,4 @@
-/// Putting a new file in the place of an old one.
+/// Replaces an old file by a new one.
 #pragma once
 
 #include "htdrdd91/platform/file_system.h"
@@ -7,22 +7,22 @@
 
 namespace htdrdd::basTemplate {
 
-/// The place of a file that is saved, perhaps with an old one in it. A link stays one: the file that it leads
-/// to is meant. Members fail to the caller.
+/// The place of a saved file, which may have an old file in it. If the path is a link, the link stays and its
+/// target is the place. Failures pass to the caller.
 class TargetFile {
 public:
     explicit TargetFile(TextView sFile);
 
     [[nodiscard]] const Text& Path() const noexcept { return path_; }
-    /// Makes way: deletes an old file where its text is Unicode, which for an archive takes the password; one
-    /// of single bytes is moved to its name with ".old" behind it. That one stays where there is such a file
-    /// already, and where it can't be deleted.
+    /// Makes way for a new file. An old file with Unicode text is deleted; the password opens an archive to
+    /// find out. An old file with single-byte text is moved to its name plus ".old"; it stays if such a file
+    /// exists already or if it can't be deleted.
     void MakeWay(TextView sPassword, Where at = Where::current()) const;
-    /// Puts a temporary file in the place, with the rights of the old one, if it is there, and deletes it.
-    /// After a failure there is no part of a file.
+    /// Moves a temporary file to the place, if it exists; the new file gets the permissions of the old one.
+    /// After a failure no partial file remains.
     void Put(TextView sTemporary, Where at = Where::current()) const;
-    /// Gives what was put there otherwise the rights of the old file, so that a key stays as secret as it
-    /// was.
+    /// Gives a file that was put in the place by other means the permissions of the old file, so that a key
+    /// stays as secret as it was.
     void RestoreRights() const noexcept;
 
 private:

@@ -14,8 +14,8 @@ constexpr std::array kRows{
 };
 constexpr TextView kSequenceKey = u"Sequence";
 
-/// Adds the positions of a list. False, with a stop message, where the sequence isn't one of all questions
-/// then.
+/// Adds the positions of a list. Returns false, with a stop message, if the sequence doesn't then have as
+/// many positions as there are questions.
 bool AddOrder(clsHTDRDDSequence& sequence, TextView order, std::int32_t lNumQuestions,
               Where at = Where::current()) {
     sequence.AddDelimitedString(order, u"\t", at);

@@ -8,15 +8,15 @@
 
 namespace htdrdd::basTemplate {
 
-/// Both add behind what the versions hold. False, with a stop message, for a sequence whose length isn't the
-/// number of questions that [Report] announced, and after a failure, which is reported; what was read before
-/// stays.
+/// Both add to the present content of the versions. They return false, with a stop message, for a sequence
+/// whose length isn't the number of questions that [Report] announced, and false after a failure, which is
+/// reported; the part read before it stays.
 [[nodiscard]] bool ReadVersions(SectionLines& lines, clsHTDRDDVersions& oVersions,
                                 std::int32_t lNumQuestions) noexcept;
 [[nodiscard]] bool ReadSequence(SectionLines& lines, clsHTDRDDVersions& oVersions,
                                 std::int32_t lNumQuestions) noexcept;
 
-/// Writes the section and the blank line behind it. Only scrambled versions have their sequences written.
+/// Writes the section and a blank line. Sequences are written only for scrambled versions.
 void WriteVersions(TextWriter& out, const clsHTDRDDVersions& oVersions);
 
 } // namespace htdrdd::basTemplate

@@ -1,4 +1,4 @@
-/// Numbers that stand for something else.
+/// Numbers with a special meaning.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,7 @@
 namespace htdrdd {
 
 enum HTDValue : std::int32_t {
-    HTDValueUndefined = -999, ///< a number that has no value
+    HTDValueUndefined = -999, ///< no value
     HTDValueClassAverage = -998,
 };
 

@@ -46,7 +46,7 @@ void AppendToLog(const ErrorReport& report, TextView sLocation) {
 
 std::int16_t basError::ReportError(const ErrorReport& report) noexcept {
     Text sLocation;
-    TextView told = report.sLocation; // what a box shows: the location as far as it has come
+    TextView told = report.sLocation; // location for a message box, as complete as it is so far
     try {
         CurrentDesktop().MousePointer(0);
         sLocation = report.sLocation;

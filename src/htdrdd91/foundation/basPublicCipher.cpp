@@ -13,7 +13,7 @@
 namespace htdrdd::basPublic {
 namespace {
 
-/// The key, character by character; it stands nowhere in one piece.
+/// The key, computed character by character; it is stored nowhere in one piece.
 std::string CipherKey() {
     std::string key;
     for (const int step : {23, 41, 8, 67, 19, 52, 77, 30, 5, 61, 44, 12, 70, 36, 58, 27})
@@ -21,8 +21,8 @@ std::string CipherKey() {
     return key;
 }
 
-/// The cipher with its key, or a null pointer where the key can't be used. It is kept, since making it ready
-/// takes as long as enciphering a page of text.
+/// The cipher with its key, or a null pointer if the key is unusable. It is kept, since preparing it takes as
+/// long as enciphering a page of text.
 const BlockCipher* Cipher() {
     static const std::unique_ptr<const BlockCipher> cipher = [] {
         auto made = std::make_unique<BlockCipher>();
@@ -45,7 +45,7 @@ int HexDigit(char16_t c, bool upperOnly) {
     return -1;
 }
 
-/// The bytes of pairs of digits. A pair that isn't one fails with 13.
+/// The bytes of pairs of hexadecimal digits. An invalid pair fails with 13.
 std::string BytesOf(TextView hex, bool upperOnly) {
     std::string bytes;
     bytes.reserve(hex.size() / 2);
@@ -111,8 +111,8 @@ Text HexToUnicode(TextView sHex) noexcept {
         if (sHex.size() < 2) return result;
         std::string bytes = BytesOf(sHex, false);
         if (sHex.size() % 2 != 0) {
-            // There is room for half the length in bytes, rounded to the even number: a last single digit has
-            // a place behind 1 or 3 whole bytes and none behind 2 or 4.
+            // There is room for half the length in bytes, rounded half to even: a single last digit fits
+            // after 1 or 3 whole bytes, but not after 2 or 4.
             if (bytes.size() % 2 == 0) throw Failure(Err::Subscript);
             const int digit = HexDigit(sHex.back(), false);
             if (digit < 0) throw Failure(Err::TypeMismatch);

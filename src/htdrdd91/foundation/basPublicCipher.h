@@ -5,19 +5,19 @@
 
 namespace htdrdd::basPublic {
 
-/// Enciphers a text: its hexadecimal form, filled up with blanks to whole blocks. The result is in upper-case
+/// Enciphers the hexadecimal form of a text, padded with blanks to whole blocks. The result is in upper-case
 /// hexadecimal; an empty text stays empty. Empty after a failure.
 [[nodiscard]] Text Encrypt(TextView sText) noexcept;
 
-/// Deciphers a text and removes trailing blanks. What comes out is still in the hexadecimal form where
-/// Encrypt made it. A text that isn't enciphered is a failure: reported, and the result is empty.
+/// Deciphers a text and removes trailing blanks. A text from Encrypt is then still in its hexadecimal form. A
+/// text that isn't enciphered is a failure: reported, and the result is empty.
 [[nodiscard]] Text Decrypt(TextView sText) noexcept;
 
-/// Four upper-case digits a unit, the low byte first: "A" is 4100.
+/// Four upper-case digits per unit, the low byte first: "A" is 4100.
 [[nodiscard]] Text UnicodeToHex(TextView sText) noexcept;
 
-/// The way back. Fewer than 2 digits are an empty text; what is no whole unit at the end is dropped. A pair
-/// that isn't hexadecimal is a failure: reported, and the result is empty.
+/// The inverse of UnicodeToHex. Fewer than 2 digits are an empty text; an incomplete unit at the end is
+/// dropped. A pair that isn't hexadecimal is a failure: reported, and the result is empty.
 [[nodiscard]] Text HexToUnicode(TextView sHex) noexcept;
 
 } // namespace htdrdd::basPublic

@@ -12,11 +12,11 @@ namespace {
 
 struct Numbered {
     double number;
-    std::size_t place; ///< where its text stands
+    std::size_t place; ///< index of its text
 };
 
 /// Quicksort with the middle element as pivot. This is meant: the pivot and the swap share one variable, so
-/// after a swap the comparisons of that pass go by the element that was swapped last.
+/// after a swap that pass compares with the element swapped last.
 template <class Less>
 void SortByNumber(std::vector<Numbered>& items, Less less) {
     struct Range {
@@ -42,7 +42,7 @@ void SortByNumber(std::vector<Numbered>& items, Less less) {
             }
         }
         if (i < last) pending.push_back({i, last});
-        if (first < j) pending.push_back({first, j}); // on top: it is sorted first
+        if (first < j) pending.push_back({first, j}); // last in, so sorted first
     }
 }
 
@@ -52,7 +52,7 @@ bool QuickSortArray(Array<Text>& sArray, std::int32_t lFirst, std::int32_t lLast
     bool result = false;
     try {
         if (lLast <= lFirst) return false;
-        // Equal texts can't be told apart, so every sort gives the same array.
+        // Equal texts are indistinguishable, so every sort has the same result.
         Text* const first = &sArray.At(lFirst);
         Text* const end = &sArray.At(lLast) + 1;
         if (bDescending)
@@ -74,7 +74,7 @@ bool QuickSortNumericStringArray(Array<Text>& sArray, std::int32_t lFirst, std::
         std::vector<Numbered> items;
         items.reserve(static_cast<std::size_t>(end - first));
         for (Text* text = first; text != end; ++text) items.push_back({TextToDouble(*text), items.size()});
-        std::vector<Text> sorted(items.size()); // made before a text is moved, so that none gets lost
+        std::vector<Text> sorted(items.size()); // allocated before a text is moved, so that none is lost
         if (bDescending)
             SortByNumber(items, std::greater<>());
         else

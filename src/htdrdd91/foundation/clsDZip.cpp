@@ -12,7 +12,8 @@
 namespace htdrdd {
 namespace {
 
-/// A new file; none where its name won't do or is taken. Other failures aren't the name's fault.
+/// Creates a file. Returns a null pointer if its name is unusable or taken; other failures don't depend on
+/// the name.
 std::unique_ptr<FileWriter> CreateUnder(FileSystem& files, TextView path) {
     try {
         return files.Create(path);
@@ -23,7 +24,7 @@ std::unique_ptr<FileWriter> CreateUnder(FileSystem& files, TextView path) {
     }
 }
 
-/// Takes one member out. False where its content or its name won't do.
+/// Extracts one member. Returns false if its content or its name is unusable.
 bool Extract(FileSystem& files, ZipReader& archive, std::int32_t member, TextView path, bool Overwrite) {
     if (Overwrite && files.FileExists(path)) files.DeleteFile(path);
     const auto file = CreateUnder(files, path);

@@ -11,7 +11,7 @@ TextView clsHTDRDDStrings::Cut(TextView item) const noexcept {
     return MaxLength > 0 ? item.substr(0, static_cast<std::size_t>(MaxLength)) : item;
 }
 
-/// Adds an item under its own full text, or without a key where that one is in use.
+/// Adds an item with its own full text as key, or without a key if that key is in use.
 void clsHTDRDDStrings::AddByOwnText(TextView item) {
     const TextView cut = Cut(item);
     if (cut.size() == item.size())
@@ -35,7 +35,7 @@ bool clsHTDRDDStrings::Lengthen(std::int32_t lCount) noexcept {
         mItems.Lengthen(lCount);
         result = true;
     }
-    // This is meant: hosts know the failure of lengthening as one of adding.
+    // This is meant: a failure is reported under the name of Add, and hosts rely on it.
     catch (...) {
         ReportFailure(u"clsHTDRDDStrings.Add");
     }
@@ -55,7 +55,7 @@ bool clsHTDRDDStrings::AddDelimitedString(TextView Items, TextView sDelimiter) n
     bool result = false;
     try {
         if (Items.empty()) return false;
-        Text items; // either may be an item of this list
+        Text items; // either argument may be an item of this list
         const Text delimiter(sDelimiter);
         if (Count() > 0) {
             items = Items;

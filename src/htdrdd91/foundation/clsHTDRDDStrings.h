@@ -17,59 +17,59 @@ class clsHTDRDDStrings final : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDStrings"; }
 
-    /// The enumerator: the items in order. A change of the list ends it.
+    /// The items in order, for range-based loops. A change of the list invalidates the iterators.
     [[nodiscard]] auto begin() const noexcept { return mItems.begin(); }
     [[nodiscard]] auto end() const noexcept { return mItems.end(); }
     [[nodiscard]] std::int32_t Count() const noexcept { return mItems.Count(); }
 
-    /// Cuts the item to MaxLength and adds it at the end, under the key if there is one. True when added. A
-    /// key that is in use is a failure.
+    /// Adds the item, cut to MaxLength, at the end, with the key if there is one. Returns true if the item
+    /// was added. A key in use is a failure.
     bool Add(TextView Item, const NewKey& Key = {}) noexcept;
 
-    /// Adds empty items at the end until there are that many. False only after a failure.
+    /// Adds empty items at the end until the list has lCount items. Returns false only after a failure.
     bool Lengthen(std::int32_t lCount) noexcept;
 
-    /// Adds each element under its own full text as its key, or without a key where that one is in use. False
-    /// if any element couldn't be added; the others are. An array without storage is a failure.
+    /// Adds each element with its own full text as key, or without a key if that key is in use. Returns false
+    /// after a failure, such as an array without storage; elements added before it stay.
     bool AddArray(const Array<Text>& Value) noexcept;
 
-    /// Adds the pieces of a delimited text by the rule of AddArray. An empty text adds nothing and gives
-    /// false, which isn't reported.
+    /// Adds the pieces of a delimited text as AddArray adds elements. For an empty text it adds nothing and
+    /// returns false without a report.
     bool AddDelimitedString(TextView Items, TextView sDelimiter = u"\t") noexcept;
 
-    /// False, with nothing reported, where there is no such item.
+    /// Returns false, without a report, if the item is missing.
     bool Remove(const Index& Index) noexcept;
     bool RemoveAll() noexcept;
 
-    /// The item, or an empty text where there is none. It lasts until the list changes.
+    /// The item, or an empty text if there is none. Valid until the list changes.
     [[nodiscard]] const Text& Item(const Index& Index) const noexcept;
-    /// Replaces an item, cut to MaxLength. It stays in its place and loses its key. Where there is no such
-    /// item, nothing happens.
+    /// Replaces an item by sNew, cut to MaxLength. The item keeps its position and loses its key. Does
+    /// nothing if the item is missing.
     void Item(const Index& Index, TextView sNew) noexcept;
 
-    /// Position of the first item that equals a text, 0 if none does. Keys play no part.
+    /// Position of the first item that equals a text, 0 if none does. Keys are ignored.
     [[nodiscard]] std::int32_t Locate(TextView sItem,
                                       Compare eCompareMethod = Compare::IgnoreCase) const noexcept;
 
-    /// Whether there is an item at a position or under a key; item texts aren't looked at.
+    /// Whether an item exists at a position or under a key; the texts of the items are ignored.
     [[nodiscard]] bool Exists(const Index& Index) const noexcept { return mItems.Exists(Index); }
 
     /// The items with the delimiter between them.
     [[nodiscard]] Text AsString(TextView sDelimiter = u"\t") const noexcept;
-    /// The items from 1; with no items an array without storage.
+    /// The items as an array from 1; without storage if there are no items.
     [[nodiscard]] Array<Text> AsArray() const noexcept;
 
-    /// A new list with this one's MaxLength, filled from the tab-delimited text of this one: an item that
-    /// holds a tab becomes several, keys are made anew, and a single empty item is lost. Empty after a
+    /// A new list with the same MaxLength, filled from the tab-delimited text of this list: an item that
+    /// contains a tab becomes several, the keys are new, and a single empty item is lost. Empty after a
     /// failure.
     [[nodiscard]] Ref<clsHTDRDDStrings> Copy() const noexcept;
 
-    /// Number of units at which an item is cut on entry; 0 or less: no limit. A change doesn't touch the
-    /// items that are there.
+    /// Number of units to which a new item is cut; 0 or less: no limit. A change doesn't affect the present
+    /// items.
     std::int32_t MaxLength = 0;
 
-    /// Sort by exact character codes. Keys are made anew. False for a single item, which stays as it is; an
-    /// empty list is a failure.
+    /// Sort by exact character codes. The keys are new. Returns false for a single item, which stays
+    /// unchanged; an empty list is a failure.
     bool SortAscending() noexcept;
     bool SortDescending() noexcept;
 

@@ -10,12 +10,12 @@ namespace {
 constexpr TextView kRoot = u"HaldenTallyDesk";
 constexpr TextView kFileType = u"FileType";
 
-/// The document of a file; one without a root where the file can't be read.
+/// The document of a file; it has no root if the file can't be read.
 std::unique_ptr<const XmlReader> Loaded(TextView sFileName) {
     Bytes bytes;
     try {
         bytes = CurrentFileSystem().Read(sFileName);
-    } catch (const Failure& failure) { // no file, or none for us
+    } catch (const Failure& failure) { // the file is missing or unreadable
         if (failure.Number() == static_cast<std::int32_t>(Err::Memory)) throw;
     }
     return std::make_unique<const XmlReader>(bytes.View());

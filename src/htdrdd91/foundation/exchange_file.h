@@ -1,5 +1,5 @@
-/// Exchange files: XML documents that carry one object between installations. The outermost element tells
-/// what they hold; the one element inside it, named after that, holds it.
+/// Exchange files: XML documents that carry one object between installations. The outermost element names the
+/// type of the object; the only element inside it has that name and holds the object.
 #pragma once
 
 #include "htdrdd91/platform/xml_document.h"
@@ -14,8 +14,8 @@ public:
     explicit ExchangeWriter(TextView sFileType);
 
     [[nodiscard]] XmlWriter& Xml() noexcept { return xml_; }
-    /// Ends the document and writes it; an existing file is replaced and keeps its rights. Whether the file
-    /// is there then. Fails as writing a file does, and an existing one is still what it was.
+    /// Ends the document and writes it; an existing file is replaced and keeps its permissions. Returns
+    /// whether the file exists afterwards. Fails as writing a file does; an existing file is then unchanged.
     [[nodiscard]] bool Save(TextView sFileName, Where at = Where::current());
 
 private:
@@ -26,8 +26,8 @@ class ExchangeReader {
 public:
     ExchangeReader(TextView sFileName, TextView sFileType);
 
-    /// The element that holds the object. None where the file can't be read, is no XML document, or holds
-    /// something else. It lasts as long as the reader.
+    /// The element that holds the object; missing if the file can't be read, is not an XML document, or holds
+    /// something else. Lives as long as the reader.
     [[nodiscard]] const XmlNode& Content() const noexcept { return content_; }
 
 private:

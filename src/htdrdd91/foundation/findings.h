@@ -1,4 +1,4 @@
-/// What a walk over the rules of a definition finds.
+/// The findings of a walk over the rules of a definition.
 #pragma once
 
 #include "htdrdd91/base/failure.h"
@@ -11,7 +11,7 @@
 
 namespace htdrdd {
 
-/// Where a rule is broken: positions and numbers from 1, and 0 for what the rule doesn't speak of.
+/// The place of an offender: positions and numbers from 1; 0 for parts that the rule doesn't concern.
 struct Offender {
     std::int32_t lQuestion = 0;
     std::int32_t lKey = 0;
@@ -22,18 +22,18 @@ struct Offender {
 
 /// A broken rule.
 struct Finding {
-    std::int32_t lRule; ///< its number in the list that was walked, from 1
+    std::int32_t lRule; ///< the rule's number in its list, from 1
     TextView sCaption;
-    Text sMessage; ///< in full; empty where the library has no words for it
+    Text sMessage; ///< in full; empty if the library has no words for it
     Offender offender;
-    Where at; ///< line of the rule
+    Where at; ///< source line of the rule
 };
 
-/// Takes the findings of a walk, in the order of the rules. True ends the walk. It must not change what is
-/// walked.
+/// Receives the findings of a walk, in the order of the rules. Returns true to end the walk. It must not
+/// change the objects that are walked.
 using FindingSink = std::function<bool(Finding)>;
 
-/// What `walk(const FindingSink&)` finds first. The walk ends there.
+/// The first finding of `walk(const FindingSink&)`. The walk ends there.
 template <class Walk>
 [[nodiscard]] std::optional<Finding> FirstFinding(Walk walk) {
     std::optional<Finding> first;

@@ -1,5 +1,5 @@
-/// Tables of the members of records as files hold them: a key, how a value is put in, and how it is written.
-/// The form of a value follows from the member's type.
+/// Tables of the members of records, as files hold them: each row has a key, a function that reads the value,
+/// and a function that writes it. The form of a value follows from the member's type.
 #pragma once
 
 #include "htdrdd91/base/number.h"
@@ -14,9 +14,9 @@
 
 namespace htdrdd {
 
-/// Reads a value into a member. A text is taken as it stands; a boolean is true for any number but 0; an
+/// Reads a value into a member. A text is taken unchanged; a boolean is true for any number except 0; an
 /// integer is the number at the start of the text, rounded, and fails with 6 outside its range; a list gets
-/// the pieces between tabs behind the items that it has.
+/// the pieces between tabs after its present items.
 inline void ReadValue(TextView value, Text& member, Where /*at*/) { member = value; }
 inline void ReadValue(TextView value, TrimmedText& member, Where /*at*/) { member = value; }
 inline void ReadValue(TextView value, TextTrimmedOnRead& member, Where /*at*/) { member = value; }
@@ -36,7 +36,7 @@ requires std::is_enum_v<Enum>
 void ReadValue(TextView value, Enum& member, Where at) {
     member = static_cast<Enum>(Rounded<std::underlying_type_t<Enum>>(LeadingNumber(value, at), at));
 }
-/// An enumeration of which files hold a narrower integer than the member is.
+/// Reads an enumeration that files hold as a narrower integer than the member.
 template <class Int, class Enum>
 void ReadValueAs(TextView value, Enum& member, Where at) {
     Int number = 0;
@@ -47,8 +47,8 @@ inline void ReadValue(TextView value, const Ref<clsHTDRDDStrings>& member, Where
     member->AddDelimitedString(value, u"\t");
 }
 
-/// Writes a member in the form in which it is read: a text as it stands, a boolean as -1 or 0, a number in
-/// its invariant text, a list with tabs between its items.
+/// Writes a member in the form in which it is read: a text unchanged, a boolean as -1 or 0, a number in its
+/// invariant text, a list with tabs between its items.
 inline void AppendValue(Text& line, TextView member) { line += member; }
 inline void AppendValue(Text& line, bool member) { line += member ? u"-1" : u"0"; }
 inline void AppendValue(Text& line, double member) { line += InvariantText(member); }
@@ -67,13 +67,13 @@ inline void AppendValue(Text& line, const Ref<clsHTDRDDStrings>& member) {
     }
 }
 
-/// One member, put into whatever the table fills and written from whatever it is written from.
+/// One member: `put` reads its value into a target, `append` writes it from a source.
 template <class Target, class Source = Target>
 struct MemberRow {
     TextView key;
     void (*put)(Target& target, TextView value, Where at);
     void (*append)(Text& line, const Source& source, Where at);
-    bool (*isWritten)(const Source& source) = nullptr; ///< none: always
+    bool (*isWritten)(const Source& source) = nullptr; ///< null: always
 };
 
 /// The row of a plain member.
@@ -83,13 +83,13 @@ constexpr MemberRow<Target> PlainRow(TextView key) {
             [](Text& line, const Target& source, Where /*at*/) { AppendValue(line, source.*Field); }};
 }
 
-/// Finds rows by their keys, in any case of letters as `Same` sees it. Keys mostly come in the order of the
-/// table.
+/// Finds rows by key; `Same` compares keys. The search begins after the last row found, since keys mostly
+/// come in the order of the table.
 template <class Row, std::size_t N, bool (*Same)(TextView, TextView) noexcept = SameInUpperCase>
 class RowFinder {
 public:
     explicit RowFinder(const std::array<Row, N>& rows) : rows_(rows) {}
-    /// The row, or a null pointer where no row has the key.
+    /// The row, or a null pointer if no row has the key.
     [[nodiscard]] const Row* Find(TextView key) {
         for (std::size_t step = 0; step < N; ++step) {
             const std::size_t place = (next_ + step) % N;

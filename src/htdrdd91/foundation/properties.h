@@ -1,4 +1,4 @@
-/// Text properties that change what they store. They read and write like any other: `q.Notes = text`.
+/// Text properties that change the value they store. They read and write like plain ones: `q.Notes = text`.
 #pragma once
 
 #include "htdrdd91/base/text.h"
@@ -31,13 +31,13 @@ protected:
 };
 
 namespace detail {
-/// Assigns a text with its line ends as blanks: one for each pair of carriage return and line feed, and for
-/// each of these alone. A failure is reported under the location, and the old text stays.
+/// Assigns a text with its line ends replaced by blanks: one blank for each CR LF pair, and for each CR or LF
+/// alone. A failure is reported under the location, and the old text stays.
 void AssignOnOneLine(Text& property, TextView value, TextView sLocation) noexcept;
 } // namespace detail
 
-/// A text that is kept on one line: line ends become blanks when it is assigned. A failure is reported under
-/// the location, and the old text stays.
+/// A text on one line: line ends become blanks on assignment. A failure is reported under the location, and
+/// the old text stays.
 template <Literal Location>
 class OneLineText : public StoredText {
 public:
@@ -47,7 +47,7 @@ public:
     }
 };
 
-/// A text that loses its outer blanks when it is assigned.
+/// A text that loses its outer blanks on assignment.
 class TrimmedText : public StoredText {
 public:
     TrimmedText& operator=(TextView value) {
@@ -56,8 +56,8 @@ public:
     }
 };
 
-/// A text that is kept as assigned and loses its outer blanks when it is read. A copy is made through the
-/// property and so is trimmed.
+/// A text that is stored as assigned and loses its outer blanks when it is read. Copying reads the property,
+/// so a copy is trimmed.
 class TextTrimmedOnRead {
 public:
     TextTrimmedOnRead() = default;

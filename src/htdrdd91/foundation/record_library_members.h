@@ -125,7 +125,7 @@ bool RecordLibrary<Record, Class>::LoadFromString(TextView sRecords) noexcept {
     bool result = false;
     try {
         const auto self = Held(*this);
-        const Text records(sRecords); // a handler may save the library over the caller's text
+        const Text records(sRecords); // a handler may save the library into the caller's text
         Reset();
         EachPiece(records, detail::kBetweenRecords, [this](TextView sPiece) { Load(sPiece); });
         result = true;

@@ -1,4 +1,4 @@
-/// Lists of rules, and how their findings leave the library.
+/// Lists of rules, and reports of their findings.
 #pragma once
 
 #include "htdrdd91/foundation/findings.h"
@@ -9,8 +9,8 @@
 
 namespace htdrdd {
 
-/// A rule: its number in its list, from 0, and its words. Where there is a label, a blank line follows the
-/// message, then the label, what the rule's code names, and the tail.
+/// A rule: its number in its list, from 0, and its texts. If there is a label, the message is followed by a
+/// blank line, the label, the name that the rule's code passes, and the tail.
 struct Rule {
     std::size_t number;
     TextView caption = {};
@@ -19,7 +19,7 @@ struct Rule {
     TextView tail = {};
 };
 
-/// Whether each row stands at its own number, and none is missing.
+/// Whether each row is at its own number and none is missing.
 template <std::size_t N>
 [[nodiscard]] constexpr bool InOrder(const std::array<Rule, N>& rules) noexcept {
     for (std::size_t place = 0; place < N; ++place)
@@ -27,7 +27,7 @@ template <std::size_t N>
     return true;
 }
 
-/// Hands the findings of one list of rules to a sink. It gives back whether the walk ends, so that a rule
+/// Passes the findings of one list of rules to a sink. The call returns true if the walk ends, so a rule
 /// reads `if (broken && ends(TheRule)) return;`.
 class FindingsOf {
 public:
@@ -43,7 +43,7 @@ private:
 /// Reports a finding to the host, as a complaint with a caption and without a failure number.
 void ReportFinding(const Finding& finding, TextView sLocation, bool bVerbose) noexcept;
 
-/// Writes a position to the variable that a caller gave for it, if there are both.
+/// Writes a position to the caller's variable, if there are both.
 inline void WriteOffender(std::int32_t* lTarget, std::int32_t lPosition) noexcept {
     if (lTarget != nullptr && lPosition != 0) *lTarget = lPosition;
 }

@@ -9,7 +9,7 @@ namespace htdrdd {
 
 inline constexpr TextView kLibraryName = u"HTDRdd91";
 
-/// Major and minor version, 0, and the number of the build. It stands here alone: CMake reads it, too.
+/// Major and minor version, 0, and the build number. Defined only here; CMake reads it from this file.
 inline constexpr std::string_view kRelease = "9.1.0.237";
 
 /// Major and minor version: "9.1".

@@ -14,9 +14,9 @@ namespace {
 constexpr TextView kTab = u"\t";
 constexpr TextView kLineEnd = u"\r\n";
 
-/// A field in two at a delimiter, the first one of it.
+/// A field, split at the first delimiter.
 struct Halves {
-    /// An empty field has no first half: it fails with 9.
+    /// Fails with 9 for an empty field, which has no first half.
     Halves(TextView field, TextView delimiter, Where at) {
         if (field.empty()) throw Failure(Err::Subscript, at);
         const std::size_t end = field.find(delimiter);

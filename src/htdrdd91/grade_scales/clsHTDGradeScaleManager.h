@@ -11,28 +11,28 @@ namespace htdrdd {
 
 extern template class RecordLibrary<clsHTDRDDGradeScale, u"clsHTDGradeScaleManager">;
 
-/// Grade scales. A scale is held as its name and, each behind a tab, its rows: start value, "&", grade. Start
-/// values are put down as plain numbers, so that 90% becomes 90. An empty piece ends LoadFromString with a
-/// failure. A scale without a name and without rows is stored, but Item gives an empty reference for it; so
-/// is an empty reference, which is reported.
+/// Grade scales. A scale is stored as its name and its rows, each after a tab: start value, "&", grade. Start
+/// values are stored as plain numbers: 90% becomes 90. An empty piece ends LoadFromString with a failure. A
+/// scale without a name and without rows is stored, but Item returns an empty reference for it. An empty
+/// reference is treated alike, and reported.
 class clsHTDGradeScaleManager final : public RecordLibrary<clsHTDRDDGradeScale, u"clsHTDGradeScaleManager"> {
 public:
-    /// A new scale from the clip form, which spreadsheets paste: a line for each row, with the grade, a tab
-    /// and the start value, which may have a "%" and the region's decimal mark, and is 0 where there is no
-    /// tab. One line end is dropped at the end. An empty reference for an empty text, and after a failure,
+    /// A new scale from the clip form, which spreadsheets paste: one line per row, with the grade, a tab and
+    /// the start value. The start value may have a "%" and the region's decimal mark; without a tab it is 0.
+    /// One line end at the end is dropped. Returns an empty reference for an empty text and after a failure,
     /// such as an empty line, which is reported.
     [[nodiscard]] Ref<clsHTDRDDGradeScale> ClipToScale(TextView ScaleName, TextView ScaleClip) const noexcept;
-    /// The clip form of a scale: start values with the region's decimal mark, no line end behind the last
-    /// row. Empty after a failure, which is reported.
+    /// The clip form of a scale: start values with the region's decimal mark, no line end after the last row.
+    /// Empty after a failure, which is reported.
     [[nodiscard]] Text ScaleToClip(const Ref<clsHTDRDDGradeScale>& oScale) const noexcept;
 
     /// Percent and points, not rounded. 0 after a failure, such as a division by 0, which is reported.
     [[nodiscard]] double CalcPercentScore(double dTotalScore, double dTotalPossibleScore) const noexcept;
     [[nodiscard]] double CalcTotalScore(double dPercentScore, double dTotalPossibleScore) const noexcept;
-    /// The points that a respondent can earn in a learning objective, given by its position; one that isn't
-    /// there counts as the overall one. Each question counts that isn't kept out of the learning objective,
-    /// with CorrectPoints where it is graded and else, where it is subjective, with SubjectivePoints; extra
-    /// credit, partial credit and weights make no difference. 0 after a failure, which is reported.
+    /// The points that a respondent can earn in the learning objective at a position; a missing position
+    /// counts as the overall one. Every question counts unless it is excluded from the learning objective: a
+    /// graded question with CorrectPoints, any other subjective question with SubjectivePoints. Extra credit,
+    /// partial credit and weights make no difference. 0 after a failure, which is reported.
     [[nodiscard]] double CalcTotalPossibleScore(const Ref<clsHTDRDD>& oRDD,
                                                 std::int16_t lObjectiveIndex = 1) const noexcept;
 

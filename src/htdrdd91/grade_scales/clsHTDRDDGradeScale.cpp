@@ -43,7 +43,7 @@ Text clsHTDRDDGradeScale::AsString(bool bAsStartValues, TextView sDelimiter) con
 
 Ref<clsHTDRDDGradeScale> clsHTDRDDGradeScale::Copy() const {
     auto copy = Make<clsHTDRDDGradeScale>();
-    copy->AddArrays(AsArray(false), AsArray(true)); // without rows there is nothing to add, in silence
+    copy->AddArrays(AsArray(false), AsArray(true)); // without rows this adds nothing and reports nothing
     copy->ScaleName = ScaleName;
     return copy;
 }
@@ -53,7 +53,7 @@ Text clsHTDRDDGradeScale::CalculateGrade(double dPercentScore, std::int16_t iDec
     try {
         if (iDecimalPlaces < 0) throw Failure(Err::Argument, Where::current());
         if (Count() == 0) return result;
-        // The very number that a start value of the rounded score's digits is.
+        // The number must equal that of a start value with the digits of the rounded score.
         const auto fixed = FixedNumber(dPercentScore, iDecimalPlaces);
         const double score =
             fixed ? *fixed : basPublic::TextToDouble(FixedText(dPercentScore, iDecimalPlaces));

@@ -10,8 +10,8 @@ class clsHTDRDDGradeScaleItem final : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDGradeScaleItem"; }
 
-    Text Grade;      ///< what a score of this row earns; free text
-    Text StartValue; ///< lowest percentage that earns it, as it was written: "90", "89.5", "89,5", "90%"
+    Text Grade;      ///< the grade for a score in this row; free text
+    Text StartValue; ///< lowest percentage for this grade, as written: "90", "89.5", "89,5", "90%"
 };
 
 } // namespace htdrdd

@@ -9,7 +9,7 @@ namespace {
 constexpr TextView kFileType = u"GradeScale";
 
 Ref<clsHTDRDDGradeScaleItem> RowOf(const XmlNode& node, Where at = Where::current()) {
-    if (!node.IsElement()) throw Failure(Err::NotSet, at); // this is meant: it has no attributes to ask for
+    if (!node.IsElement()) throw Failure(Err::NotSet, at); // this is meant: only elements have attributes
     auto row = Make<clsHTDRDDGradeScaleItem>();
     row->Grade = node.Attribute(u"Grade").value_or(Text());
     if (const auto startValue = node.Attribute(u"StartValue"))

@@ -6,8 +6,8 @@
 
 namespace htdrdd {
 
-/// Walks the rules that Validate holds a scale to and hands out what is broken, as long as the sink wants
-/// more. Fails to the caller.
+/// Walks the rules of Validate over a scale and passes each finding to the sink until the sink ends the walk.
+/// A failure passes to the caller.
 void WalkGradeScaleRules(const clsHTDRDDGradeScale& oScale, const FindingSink& found);
 
 } // namespace htdrdd

@@ -16,14 +16,14 @@ constexpr TextView kTooManyGraded =
 constexpr TextView kTooManySubjective =
     u"The generic key contains more subjective questions than the active key. Please select additional items "
     u"to be subjective in the active key or select a different generic key to import.";
-constexpr TextView kNoSuchAnswer = // the words are meant as they stand
+constexpr TextView kNoSuchAnswer = // this wording is meant
     u"The generic key contains defines one more more correct answers that do not exist in the active key.";
 
-/// A kind of question, and what a generic key says of its correct answers.
+/// A kind of question, and the form of its correct answers in a generic key.
 struct QuestionKind {
     bool clsHTDRDDQuestion::*flag;
     std::int32_t (clsHTDRDDQuestions::*next)(std::int32_t) const noexcept;
-    bool takesNumbers; ///< answers are given by the numbers of the response choices
+    bool takesNumbers; ///< answers are the numbers of response choices
 };
 constexpr QuestionKind kGraded{&clsHTDRDDQuestion::IncludeGrade, &clsHTDRDDQuestions::NextGraded, true};
 constexpr QuestionKind kSubjective{&clsHTDRDDQuestion::SubjectiveField, &clsHTDRDDQuestions::NextSubjective,
@@ -34,19 +34,19 @@ void TurnOffLast(clsHTDRDDQuestions& questions, std::int64_t surplus, bool clsHT
                 [flag](clsHTDRDDQuestion& question) { return std::exchange(question.*flag, false); });
 }
 
-/// The rows pass as texts: those of a scale whose grades hold tabs may come out differently, or not at all.
+/// The rows pass as texts: a scale with tabs in its grades may change or get lost.
 void TakeOver(clsHTDRDDGradeScale& scale, const clsHTDRDDGradeScale& generic) {
     scale.ScaleName = generic.ScaleName;
     scale.AddDelimitedStrings(generic.AsString(false), generic.AsString(true));
 }
 
-/// What a question keeps when a generic one is laid over it: its name and form, and the answers, which are
-/// assigned afterwards.
+/// The members that a question keeps when a generic one is merged over it: its name and form, and the
+/// answers, which are assigned afterwards.
 constexpr std::array<TextView, 12> kKept{u"QuestionName",   u"AnswerValues", u"AnswerCodes",
                                          u"BlankText",      u"BlankValue",   u"MultipleText",
                                          u"MultipleValue",  u"MinValue",     u"MaxValue",
                                          u"CorrectAnswers", u"CorrectCodes", u"CorrectAnswerPoints"};
-/// What is taken over last, in this order: what comes before a failure stays.
+/// The members copied last, in this order: those before a failure stay.
 constexpr std::array<TextView, 2> kLast{u"Subtests", u"Topic"};
 static_assert(AreMembers<clsHTDRDDQuestion>(kKept) && AreMembers<clsHTDRDDQuestion>(kLast));
 
@@ -56,12 +56,12 @@ void TakeOver(clsHTDRDDQuestion& question, const clsHTDRDDQuestion& generic) {
             question.*row.member = generic.*row.member;
     });
     question.Subtests->RemoveAll();
-    const Array<bool> includes = generic.Subtests->AsArray(); // a report may make the host replace either
+    const Array<bool> includes = generic.Subtests->AsArray(); // a report may release either
     question.Subtests->AddArray(includes);
     question.Topic = generic.Topic;
 }
 
-/// Everything of the document that isn't a question.
+/// Copies the members of the document, except its questions, header and versions.
 void TakeOverDocument(clsHTDRDD& rdd, const clsHTDRDD& generic) {
     rdd.GradeScale->RemoveAll();
     rdd.SubtestGradeScale->RemoveAll();
@@ -76,7 +76,7 @@ void TakeOverDocument(clsHTDRDD& rdd, const clsHTDRDD& generic) {
         rdd.Subtests->Add(generic.Subtests->Item(l));
 }
 
-/// Leaves a question without answers, and in the overall learning objective only.
+/// Leaves a question without answers and only in the overall learning objective.
 void StartAnew(clsHTDRDDQuestion& question, std::int32_t lSubtests) {
     question.Subtests->RemoveAll();
     if (lSubtests > 0) question.Subtests->Add(true);
@@ -90,7 +90,7 @@ void TakeOverHeader(clsHTDRDD& rdd, const clsHTDRDD& generic) {
     for (const auto& [key, item] : generic.Header->Entries()) rdd.Header->Item(key, item);
 }
 
-/// Lays the questions of a kind over those of the definition, one after the other. False after a complaint.
+/// Merges the questions of a kind over those of the definition, in order. Returns false after a complaint.
 bool MergeQuestions(clsHTDRDD& rdd, const clsHTDRDD& generic, const QuestionKind& kind,
                     const ImportComplaint& fails) {
     std::int32_t position = ((*rdd.Questions).*kind.next)(0);
@@ -110,7 +110,6 @@ bool MergeQuestions(clsHTDRDD& rdd, const clsHTDRDD& generic, const QuestionKind
             basPublic::AssignCorrectAnswer(*question, answer, 1,
                                            hasPoints ? source->CorrectAnswerPoints->Item(1) : TextView());
         }
-        // Behind what was just taken over, so the flags that it brought count.
         position = ((*rdd.Questions).*kind.next)(position);
         lGeneric = ((*generic.Questions).*kind.next)(lGeneric);
     }
@@ -123,7 +122,7 @@ bool IsUsed(const clsHTDRDD& rdd, std::int32_t lSubtest) {
     return false;
 }
 
-/// Removes the learning objectives that no question is in, but not the overall one.
+/// Removes the learning objectives without questions, except the overall one.
 void RemoveUnusedSubtests(clsHTDRDD& rdd) {
     for (std::int32_t subtest = rdd.Subtests->Count(); subtest >= 2; --subtest) {
         if (IsUsed(rdd, subtest)) continue;

@@ -1,4 +1,4 @@
-/// What all merges of answer keys share.
+/// The shared parts of all merges of answer keys.
 #pragma once
 
 #include "htdrdd91/model/clsHTDRDD.h"
@@ -7,8 +7,8 @@
 
 namespace htdrdd {
 
-/// Tells the user why a key can't be merged. It gives back false, so that a merge ends with
-/// `return fails(message);`.
+/// Tells the user why a key can't be merged. Returns false, so that a merge ends with `return
+/// fails(message);`.
 class ImportComplaint {
 public:
     ImportComplaint(TextView sLocation, bool bVerbose) : sLocation_(sLocation), bVerbose_(bVerbose) {}
@@ -20,30 +20,30 @@ private:
     bool bVerbose_;
 };
 
-/// A message that ends with the position of a question and its correct answers as the key has them.
+/// A message that ends with the position of a question and its correct answers, as in the key.
 [[nodiscard]] Text WithAnswers(TextView sMessage, TextView sLabel, std::int32_t lPosition, TextView sAnswers);
 
-/// Turns off the last questions, from the end on: as many as the surplus, or all that there are.
-/// `turnOff(question)` gives whether the question was on.
+/// Turns off the last `lSurplus` questions, or all if there are fewer, from the end on. `turnOff(question)`
+/// returns whether the question was on.
 template <class TurnOff>
 void TurnOffLast(clsHTDRDDQuestions& questions, std::int64_t lSurplus, TurnOff turnOff) {
     for (std::int32_t l = questions.Count(); lSurplus > 0 && l >= 1; --l)
         if (turnOff(*questions.Item(l))) --lSurplus;
 }
 
-/// Takes the correct answers of all keys from a question, with their points and how they combine.
+/// Removes the correct answers of all keys from a question, with their points and how they combine.
 void RemoveAnswers(clsHTDRDDQuestion& question);
 
-/// Makes the test have one version, in the printed order. The question that tells the version stays.
+/// Reduces the test to one version in the printed order. The question that identifies the version stays.
 void RemoveVersions(clsHTDRDD& rdd);
 
-/// The text without the parentheses around it; one without the other stays.
+/// The text without the parentheses around it; a single parenthesis stays.
 [[nodiscard]] TextView WithoutParentheses(TextView text) noexcept;
 
 enum class ChoiceOrder { AsWritten, Sorted };
 
-/// Makes a correct answer of the numbers of response choices, with "," between them. False where a number,
-/// rounded, is that of no choice.
+/// Converts numbers of response choices, with "," between them, to a correct answer. Returns false if a
+/// number, rounded, isn't that of a choice.
 [[nodiscard]] bool AnswersByNumber(Text& sAnswers, const clsHTDRDDQuestion& question, TextView sNumbers,
                                    ChoiceOrder order);
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr TextView kLocation = u"clsHTDRDD.MergeTextKey";
 
-/// Whether a line end stands in the text and not only at its end.
+/// Whether the text contains a line end before its very end.
 bool HoldsLines(TextView text) {
     const std::size_t end = text.find(kLineEnd);
     return end != TextView::npos && end + kLineEnd.size() < text.size();
@@ -18,7 +18,7 @@ bool HoldsLines(TextView text) {
 
 bool HoldsTabs(TextView text) { return text.find(u'\t') != TextView::npos; }
 
-/// What stands between the fields of a key of one version; empty where nothing does.
+/// The separator of the fields in a key of one version; empty if there is none.
 TextView SeparatorOf(TextView text) {
     if (HoldsTabs(text)) return u"\t";
     if (HoldsLines(text)) return kLineEnd;
@@ -27,8 +27,8 @@ TextView SeparatorOf(TextView text) {
     return {};
 }
 
-/// Makes the correct answer that a field gives to a question that takes numbers. False where a number is that
-/// of no choice.
+/// Converts a field to the correct answer of a question that takes numbers. Returns false if a number isn't
+/// that of a choice.
 bool NumberedAnswers(Text& answers, clsHTDRDDQuestion& question, TextView part) {
     part = WithoutParentheses(part);
     question.CorrectAnd = part.find(u'&') != TextView::npos;
@@ -36,7 +36,7 @@ bool NumberedAnswers(Text& answers, clsHTDRDDQuestion& question, TextView part) 
     return AnswersByNumber(answers, question, NumbersOf(part), ChoiceOrder::Sorted);
 }
 
-/// Gives the fields of a key of one version to the questions. False after a complaint.
+/// Assigns the fields of a key of one version to the questions. Returns false after a complaint.
 bool MergeFields(clsHTDRDD& rdd, TextView text, const ImportComplaint& fails) {
     const TextView separator = SeparatorOf(text);
     if (separator.empty()) return fails(u"The format of the text key file is invalid.");

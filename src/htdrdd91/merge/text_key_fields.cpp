@@ -20,8 +20,7 @@ TextView WithoutTrailing(TextView text, TextView what) noexcept {
 }
 
 std::int64_t NumKeyQuestions(const clsHTDRDD& rdd) {
-    const std::int64_t graded =
-        rdd.Questions->NumGraded(); // a report may make the host replace the questions
+    const std::int64_t graded = rdd.Questions->NumGraded(); // a report may release the questions
     return graded + rdd.Questions->NumSubjective();
 }
 
@@ -47,8 +46,8 @@ KeyQuestions::KeyQuestions(const clsHTDRDD& rdd)
     : rdd_(rdd), lSubjective_(rdd.Questions->NextSubjective(0)), lGraded_(rdd.Questions->NextGraded(0)) {}
 
 std::int32_t KeyQuestions::Next() {
-    // A position that hasn't been reached stays the next one, since flags change only behind it. Asking anew
-    // for both kinds at each step would look through all the rest where one of them is missing.
+    // A position that isn't reached yet stays the next one, since flags change only before it. Searching for
+    // both kinds at each step would scan all remaining questions if one kind is missing.
     if (lSubjective_ != 0 && lSubjective_ <= lPosition_)
         lSubjective_ = rdd_.Questions->NextSubjective(lPosition_);
     if (lGraded_ != 0 && lGraded_ <= lPosition_) lGraded_ = rdd_.Questions->NextGraded(lPosition_);

@@ -22,15 +22,15 @@ constexpr TextView kRepeatedIdentifier =
     u"The text key contains the same version identifier value more than once. Version identifier values must "
     u"be unique.";
 
-/// Merges the lines of a key one after the other. The number of a line is that of its key; an empty line
-/// makes no version and leaves a gap in the keys: this is meant.
+/// Merges the lines of a key in order. The number of a line is the number of its key. This is meant: an empty
+/// line creates no version and leaves a gap in the keys.
 class VersionLines {
 public:
     VersionLines(clsHTDRDD& rdd, const ImportComplaint& fails) : rdd_(rdd), fails_(fails) {}
 
-    /// False after a complaint.
+    /// Returns false after a complaint.
     [[nodiscard]] bool Merge(TextView line);
-    /// Turns off the questions that all lines leave empty.
+    /// Turns off the questions that are empty in all lines.
     void TurnOffEmpty() const;
 
 private:
@@ -53,7 +53,7 @@ bool VersionLines::Merge(TextView line) {
     const std::int64_t surplus = NumKeyQuestions(rdd_) - fields + 1;
     if (surplus < 0) return fails_(kTooManyFields);
     if (surplus > 0 && lLine_ > 1) return fails_(kVaryingQuestions);
-    // Each question's lists hold an entry for each gap: a file of empty lines mustn't take all memory.
+    // Each question's lists have an entry for each gap: a file of empty lines must not take all memory.
     constexpr std::int64_t kMostGaps = 1'000'000;
     if (lGaps_ * fields > kMostGaps) throw Failure(Err::Memory, Where::current());
     TurnOffLast(*rdd_.Questions, surplus, TurnOff);
@@ -104,7 +104,7 @@ bool MergeTextKeyVersions(clsHTDRDD& rdd, TextView sKeyText, bool bVerbose) noex
             return fails(kNoVersionQuestion);
         const Text text = Replaced(WithoutTrailing(sKeyText, kLineEnd), u"+", u"");
         RemoveVersions(rdd);
-        const bool anySeveral = text.find_first_of(u"&,") != Text::npos; // in an identifier, too
+        const bool anySeveral = text.find_first_of(u"&,") != Text::npos; // even in an identifier
         StartKeyAnew(rdd, [anySeveral](clsHTDRDDQuestion& question) {
             if (anySeveral) question.MultiplesPermitted = HTDMultiplesPermittedAll;
             question.QuestionText = u"";
@@ -115,7 +115,7 @@ bool MergeTextKeyVersions(clsHTDRDD& rdd, TextView sKeyText, bool bVerbose) noex
             if (!lines.Merge(*line)) return false;
         lines.TurnOffEmpty();
         const bool isKeyValid = rdd.ValidateKey(bVerbose);
-        result = rdd.ValidateVersions(bVerbose) && isKeyValid; // both, so that the user hears of both
+        result = rdd.ValidateVersions(bVerbose) && isKeyValid; // both run, so that the user learns of both
     } catch (...) { ReportFailure(kLocation); }
     return result;
 }

@@ -7,7 +7,7 @@
 namespace htdrdd::basPublic {
 namespace {
 
-/// Makes the codes of the pieces that are answer values, in the form in which they are filed.
+/// Appends the codes of the pieces that are answer values, in the form that files use.
 void MakeCodes(Text& codes, const clsHTDRDDQuestion& question, TextView answer) {
     EachPiece(answer, u",", [&](TextView piece) {
         const std::int32_t position = question.AnswerValues->Locate(piece);
@@ -52,7 +52,7 @@ Text CorrectAnswerToCode(const clsHTDRDDQuestion& oQuestion, std::int32_t lKey) 
         }
         MakeCodes(result, oQuestion, bare);
         if (!result.empty()) return result;
-        // This is meant: the tests go by difference, and stored definitions carry codes made this way.
+        // This is meant: the comparisons are for difference, and stored definitions contain such codes.
         if (!SameText(bare, oQuestion.BlankText))
             result = InvariantText(oQuestion.BlankValue);
         else if (!SameText(bare, oQuestion.MultipleText))
@@ -80,7 +80,7 @@ void AssignCorrectAnswer(clsHTDRDDQuestion& oQuestion, TextView sAnswer, std::in
         }
         oQuestion.CorrectAnswers->Item(lKey, answer);
         oQuestion.CorrectAnswerPoints->Item(lKey, points);
-        const Text code = CorrectAnswerToCode(oQuestion, lKey); // a report may make the host replace the list
+        const Text code = CorrectAnswerToCode(oQuestion, lKey); // a report may release the list
         oQuestion.CorrectCodes->Item(lKey, code);
         if (lKey >= 2) return;
         oQuestion.NumCorrect = NumStringItems(answer, u",");

@@ -5,8 +5,8 @@
 
 namespace htdrdd::basPublic {
 
-/// Empties a dictionary and gives it the 31 header settings with their defaults, in order. A failure, such as
-/// an empty reference, is reported and leaves what was set up to then.
+/// Empties a dictionary and adds the 31 header settings with their defaults, in order. A failure, such as an
+/// empty reference, is reported; settings added before it stay.
 void InitializeHeader(const Ref<Dictionary>& oHeader) noexcept;
 
 } // namespace htdrdd::basPublic

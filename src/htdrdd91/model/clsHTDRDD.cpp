@@ -24,8 +24,8 @@ clsHTDRDD::clsHTDRDD() noexcept {
     } catch (...) { ReportFailure(u"clsHTDRDD.Class_Initialize"); }
 }
 
-// This is meant: members end in this order, whatever order they are declared in, and hosts see objects of
-// their own end with them.
+// This is meant: the members are released in this order, independent of their declarations. Hosts can
+// observe it, since their own objects end with the members.
 clsHTDRDD::~clsHTDRDD() {
     Questions = nullptr;
     Versions = nullptr;
@@ -81,7 +81,7 @@ bool clsHTDRDD::AddDefaultSubtest() noexcept {
         }
         result = Subtests->Count() >= 1;
     }
-    // This is meant: hosts know the location under the name of the collection.
+    // This is meant: the location names the collection, and hosts rely on it.
     catch (...) {
         ReportFailure(u"clsHTDRDDSubtests.AddDefaultSubtest");
     }

@@ -22,10 +22,10 @@ enum HTDReportType : std::int32_t {
     HTDReportTypeGenericGrade = 3, ///< a generic key, to be merged into other definitions
 };
 
-/// One report definition: the answer key of a test or a survey. `Make<clsHTDRDD>()` gives an empty one.
-/// Object members are shared references: assigning one replaces it, nothing is copied or checked.
+/// One report definition: the answer key of a test or a survey. `Make<clsHTDRDD>()` creates an empty one.
+/// Object members are shared references: assignment replaces the reference, without a copy or a check.
 ///
-/// A member is defined in the folder that its work belongs to:
+/// Each member is defined in the folder that its work belongs to:
 /// - definition_file/definition_reader.cpp: Read
 /// - definition_file/definition_writer.cpp: Save, Copy
 /// - definition_file/header_file.cpp: SaveHeader, LoadHeader
@@ -34,10 +34,10 @@ enum HTDReportType : std::int32_t {
 /// - validation/subtest_rules.cpp: ValidateSubtests, ScaledScoreIsValid
 /// - merge/text_key.cpp: MergeTextKey
 /// - merge/generic_key.cpp: MergeGenericKey
-/// - model/clsHTDRDD.cpp: all others
+/// - model/clsHTDRDD.cpp: all other members
 class clsHTDRDD final : public LateBound {
 public:
-    /// Makes the members. A failure is reported.
+    /// Creates the object members. A failure is reported.
     clsHTDRDD() noexcept;
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDD"; }
 
@@ -49,33 +49,33 @@ public:
     Ref<clsHTDRDDGradeScale> SubtestGradeScale;   ///< shared by the other learning objectives
     Ref<clsHTDRDDScaledScore> SubtestScaledScore; ///< shared by the other learning objectives
     Ref<Dictionary> Header;                       ///< settings of the report header; keys in any case
-    Ref<Object> oState;                           ///< a slot for the host; Clear, and so Read, empties it
+    Ref<Object> oState;                           ///< free for the host; emptied by Clear, and so by Read
 
-    /// Resets everything but FileName, and makes the definition a survey. A failure, such as a member that is
-    /// an empty reference, passes to the caller, and what was reset before it stays so.
+    /// Resets everything except FileName, and makes the definition a survey. A failure, such as a member that
+    /// is an empty reference, passes to the caller; members reset before it stay reset.
     void Clear();
 
-    /// Reads a definition file into this object. A file that isn't there changes nothing and gives false in
-    /// silence. Otherwise the object is cleared first. False for a file whose first line is no section line,
-    /// in silence, and for a broken one, with a complaint; the object holds what was read up to there. Only a
-    /// true result sets FileName. AfterRead is raised in any case.
+    /// Reads a definition file into this object. A missing file changes nothing; the result is false without
+    /// a report. Otherwise the object is cleared first. Returns false without a report if the first line
+    /// isn't a section line, and false with a complaint for a broken file; the object then holds the part
+    /// before. FileName is set only if the result is true. AfterRead is raised in any case.
     bool Read(TextView sRDDFile);
 
-    /// Saves the definition as a password-protected archive, or with bEncrypt false as plain text, and sets
-    /// FileName. False after a failure, which is reported, and where the user declines to save invalid test
-    /// versions; with bVerbose false nobody is asked and they are saved. True means that a file of that name
-    /// is there at the end.
-    /// - The target stays as it is until the text is complete in a temporary file. Then an old target is
-    ///   deleted, or where its text is single-byte kept under its name with ".old" behind it.
-    /// - The document takes its grade scale and its scaled score over from learning objective 1, if that one
-    ///   has any, whatever comes of the save.
-    /// - This is meant: an archived save, and one that fails, leaves the text in the temporary folder for its
-    ///   owner only.
+    /// Saves the definition as a password-protected archive, or as plain text if bEncrypt is false, and sets
+    /// FileName. Returns false after a failure, which is reported, and if the user declines to save invalid
+    /// test versions; if bVerbose is false, they are saved without a question. True means that a file of that
+    /// name exists at the end.
+    /// - The target is unchanged until the text is complete in a temporary file. Then an old target is
+    ///   deleted or, if its text is single-byte, kept under its name plus ".old".
+    /// - The document copies the grade scale and the scaled score of learning objective 1, if it has them,
+    ///   even if the save fails.
+    /// - This is meant: an archived save, and a failed one, leaves the text in the temporary folder,
+    ///   accessible only to its owner.
     bool Save(TextView sRDDFile, bool bEncrypt = true, bool bVerbose = true);
 
-    /// Registers the host object of this thread, for all definitions, until another takes its place; an empty
-    /// reference goes back to Error.log. Whether a host is registered now. A second thread needs a host
-    /// object of its own.
+    /// Registers the host object of this thread, for all definitions, until another replaces it; an empty
+    /// reference restores Error.log. Returns whether a host is now registered. A second thread needs its own
+    /// host object.
     bool SetError(const Ref<LateBound>& oErr);
 
     Text FileName; ///< path last read or saved
@@ -87,91 +87,93 @@ public:
     [[nodiscard]] Text Version() const;
     std::int32_t NumPages = 0;
 
-    /// The extra credit in a subtest: number of questions and possible points. False without any, for a
-    /// subtest that isn't there (both are 0 then), and after a failure, which is reported.
+    /// The extra credit in a learning objective: number of questions and possible points. Returns false if
+    /// there is none, if the learning objective is missing (both are then 0), and after a failure, which is
+    /// reported.
     bool GetExtraCredit(const Variant& lSubtest = 1, std::int32_t* lNumQuestions = nullptr,
                         double* dPossiblePoints = nullptr) const noexcept;
 
-    /// Positions of the questions of a subtest, which is given by position or by name (case ignored), under
-    /// the question names as keys. Empty for an unknown name, for a value that is neither an integer nor a
-    /// text, and after a failure, which is reported; a collection without entries for a position that isn't
-    /// there.
+    /// Positions of the questions in a learning objective, with the question names as keys. The learning
+    /// objective is given by position or by name (case ignored). Returns an empty reference for an unknown
+    /// name, for a value that is neither an integer nor a text, and after a failure, which is reported; a
+    /// collection without entries for a missing position.
     [[nodiscard]] Ref<NumberCollection> GetSubtestQuestions(const Variant& vSubtest) const noexcept;
 
-    /// Whether the test versions can be graded together: identifiers that differ, and what scrambled or
-    /// standard versions demand. A type that is left out or empty becomes Versions->VType(); a type that is
-    /// given counts instead, as a number. False for the first broken rule, with a complaint, which bVerbose
-    /// false keeps from the user; lInvalidVersion is written only by the rules that speak of one version.
-    /// False after a failure, which is reported.
+    /// Whether the test versions can be graded together: the identifiers must differ, and the rules of
+    /// scrambled or standard versions must hold. A missing or empty type becomes Versions->VType(); a given
+    /// type is compared as a number and used instead. Returns false for the first broken rule, with a
+    /// complaint, which bVerbose false keeps from the user; lInvalidVersion is written only by rules that
+    /// concern one version. False after a failure, which is reported.
     bool ValidateVersions(bool bVerbose = true, std::int32_t* lInvalidVersion = nullptr,
                           Variant* eVersionType = nullptr) const noexcept;
 
-    /// Whether each learning objective, the overall one too, has a question that counts for this type of
-    /// report: in a survey a tallied one, else a graded one, in a test also a subjective one. Only a false
-    /// result writes lInvalidSubtest, with the position of the first one that has none; nobody is told.
+    /// Whether each learning objective, including the overall one, has a question that counts for this type
+    /// of report: in a survey a tallied one, otherwise a graded one, in a test also a subjective one. Only a
+    /// false result writes lInvalidSubtest, with the position of the first offender; there is no complaint.
     /// False after a failure, which is reported.
     bool ValidateSubtests(std::int32_t* lInvalidSubtest = nullptr) const noexcept;
 
-    /// Whether the key can be graded with. False for the first broken rule, with a complaint, which bVerbose
-    /// false keeps from the user; the positions of the question, of the key and of the learning objective
-    /// are written where the rule speaks of them. False after a failure, which is reported.
+    /// Whether the key can be used for grading. Returns false for the first broken rule, with a complaint,
+    /// which bVerbose false keeps from the user; the positions of the question, the key and the learning
+    /// objective are written if the rule concerns them. False after a failure, which is reported.
     bool ValidateKey(bool bVerbose = true, std::int32_t* lInvalidQuestion = nullptr,
                      std::int32_t* lInvalidKey = nullptr,
                      std::int32_t* lInvalidSubtest = nullptr) const noexcept;
 
-    /// Sees to it that there is an overall learning objective; where one is made, questions without
-    /// memberships join it. False after a failure, which is reported.
+    /// Adds the overall learning objective if it is missing; questions without memberships then join it.
+    /// Returns false after a failure, which is reported.
     bool AddDefaultSubtest() noexcept;
 
-    /// A new definition with what a file carries, made by a save to a temporary file and a read of it. This
-    /// object then bears the temporary file's name and the copy the name that this one had: this is meant.
-    /// Empty after a failure, which is reported.
+    /// A new definition with everything that a file carries, created by a save to a temporary file and a read
+    /// of it. This is meant: this object then has the temporary file's name, and the copy the former name of
+    /// this object. Empty after a failure, which is reported.
     [[nodiscard]] Ref<clsHTDRDD> Copy() noexcept;
 
     bool CustomHeader = false; ///< whether the host uses the header settings
 
-    /// Saves the header settings to a file of their own, and treats an old one as Save does. False without
-    /// settings, in silence, and after a failure, which is reported.
+    /// Saves the header settings to a file of their own, and treats an old file as Save does. Returns false
+    /// without a report if there are no settings, and false after a failure, which is reported.
     bool SaveHeader(TextView sHeaderFile) noexcept;
 
-    /// Resets the header settings and takes those of a file over. False in silence for a file whose first
-    /// line isn't [Header], and false after a failure, such as a file that isn't there, which is reported.
+    /// Resets the header settings and loads those of a file. Returns false without a report if the first line
+    /// isn't [Header], and false after a failure, such as a missing file, which is reported.
     bool LoadHeader(TextView sHeaderFile) noexcept;
 
     /// Replaces the answer key by a text key, a single-byte file of correct answers: one key, or a line for
-    /// each standard test version, which takes a question in Versions->Question. docs/merging.md tells what
-    /// may stand in it. True where the key can be graded with afterwards: it is judged as ValidateKey does,
-    /// and with several versions as ValidateVersions does. False without a file and for one that holds no
-    /// field, in silence; after a complaint, which bVerbose false keeps from the user; and after a failure,
-    /// such as an empty file, which is reported.
-    /// - Questions keep their response choices and get the texts that the file has for them, or empty ones.
-    ///   Those that it has no field for are turned off.
-    /// - Versions, correct answers and learning objectives are made anew; of these there is one then, with
-    ///   the benchmark of the first.
-    /// - A key that is refused as a whole, for its form, for more fields than questions, or for versions
-    ///   without a question that tells them, changes nothing. Any other complaint leaves what was merged up
-    ///   to then, and the old key is gone: keep a Copy to go back to.
+    /// each standard test version, which requires a question in Versions->Question. docs/merging.md describes
+    /// the content. Returns true if the new key can be used for grading: it is checked as by ValidateKey and,
+    /// with several versions, as by ValidateVersions. Returns false without a report if the file is missing
+    /// or has no fields; false after a complaint, which bVerbose false keeps from the user; and false after a
+    /// failure, such as an empty file, which is reported.
+    /// - Questions keep their response choices and get the question texts of the file, or empty ones.
+    ///   Questions without a field are turned off.
+    /// - Versions, correct answers and learning objectives are created anew. Only the overall learning
+    ///   objective remains, with the benchmark of the former first one.
+    /// - A key that is refused as a whole (for its form, for more fields than questions, or for versions
+    ///   without a question that identifies them) changes nothing. After any other complaint the part merged
+    ///   so far stays, and the old key is lost: keep a Copy to go back to.
     bool MergeTextKey(TextView sKeyFile, bool bVerbose = true) noexcept;
 
-    /// Lays a generic key over this definition: its graded questions over the graded ones here, one after the
-    /// other, and its subjective ones over the subjective ones. True where the merge ran to its end; the key
-    /// isn't judged. False, in silence, for an empty reference and another type of report; after a complaint,
-    /// which bVerbose false keeps from the user; and after a failure, which is reported.
-    /// - Questions keep their names and response choices and take nearly all else. Those that are left over,
-    ///   from the end on, are turned off; all that got none lose their answers.
-    /// - Grade scales, scaled scores, header settings and the learning objectives that a question is in come
-    ///   from the generic key; the two share the learning objectives afterwards: this is meant. There is one
-    ///   test version then.
-    /// - With too many graded questions nothing changes; with too many subjective ones, graded questions that
-    ///   are left over are off. Any other complaint leaves what was merged up to then: keep a Copy to go back
-    ///   to.
+    /// Merges a generic key over this definition, question by question: its graded questions over the graded
+    /// ones here, and its subjective ones over the subjective ones. Returns true if the merge is complete;
+    /// the key isn't checked. Returns false without a report for an empty reference and for another type of
+    /// report; false after a complaint, which bVerbose false keeps from the user; and false after a failure,
+    /// which is reported.
+    /// - Questions keep their names and response choices and take nearly everything else. Surplus questions
+    ///   at the end are turned off; all questions that receive none lose their answers.
+    /// - Grade scales, scaled scores, header settings and the memberships of questions come from the
+    ///   generic key. This is meant: both definitions share the learning objectives afterwards. Only one test
+    ///   version remains.
+    /// - If there are too many graded questions, nothing changes; if there are too many subjective ones,
+    ///   surplus graded questions are turned off. After any other complaint the part merged so far stays:
+    ///   keep a Copy to go back to.
     bool MergeGenericKey(const Ref<clsHTDRDD>& oGenericRDD, bool bVerbose = true) noexcept;
 
-    /// Whether the scaled score of the learning objective at a position can be used, or with -1 that of any.
-    /// False in silence where there is none. False after a failure, which is reported.
+    /// Whether the scaled score of the learning objective at a position can be used; with -1, that of any of
+    /// them. Returns false without a report if there is none. False after a failure, which is reported.
     bool ScaledScoreIsValid(std::int32_t lSubtestIndex = -1) noexcept;
 
-    /// Bound by name: Subtests.
+    /// The member bound by name: Subtests.
     Variant Get(TextView name) override;
 
     Event AfterRead; ///< raised at the end of every Read

@@ -24,7 +24,7 @@ const clsHTDRDDQuestionSubtests::Slot* clsHTDRDDQuestionSubtests::Find(std::int3
     return slot != slots_.end() && slot->lIndex == lIndex ? &*slot : nullptr;
 }
 
-/// The slot, made where it isn't there.
+/// The slot, created if it is missing.
 clsHTDRDDQuestionSubtests::Slot& clsHTDRDDQuestionSubtests::Made(std::int32_t lIndex, Where at) {
     if (!Exists(lIndex)) throw Failure(Err::NotSet, at);
     auto slot = LowerBound(lIndex);

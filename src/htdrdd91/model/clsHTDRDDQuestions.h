@@ -8,11 +8,11 @@
 
 namespace htdrdd {
 
-/// The questions in document order; a question's position is its number. Failures are reported under the
-/// member's name, and the result is then 0.
+/// The questions in document order; a question's position is its number. A failure is reported under the
+/// member's name, and the result is 0.
 ///
-/// Each `Num` member counts the questions of a class, each `Next` member walks them: 0 starts, the position
-/// that comes back goes in next, and 0 ends. This is meant: a walk may demand more than the count does.
+/// Each `Num` member counts the questions of a class, and each `Next` member walks them: pass 0 to begin and
+/// then each result, until the result is 0. This is meant: a walk may demand more than the count does.
 class clsHTDRDDQuestions final : public ObjectList<clsHTDRDDQuestion> {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDQuestions"; }
@@ -30,14 +30,14 @@ public:
     [[nodiscard]] std::int32_t NumTallied() const noexcept;
     [[nodiscard]] std::int32_t NextTallied(std::int32_t lCurrentPosition = 0) const noexcept;
 
-    /// Adds at the end, or before or after an entry, under the key if there is one. A key that is in use and
-    /// a place that isn't there are failures; the question isn't added then.
+    /// Adds at the end, or before or after an entry, with the key if there is one. A key in use and a missing
+    /// entry in Before or After are failures; the question isn't added.
     void Add(Ref<clsHTDRDDQuestion> Item, const NewKey& Key = {}, const Index& Before = {},
              const Index& After = {}) noexcept;
-    /// A bad index is a failure. Positions behind move down by one; nothing else is adjusted.
+    /// A bad index is a failure. Later positions move down by one; nothing else is adjusted.
     void Remove(const Index& Index) noexcept;
 
-    /// Position of the first question of a name, 0 if there is none.
+    /// Position of the first question with the name, 0 if there is none.
     [[nodiscard]] std::int32_t Find(TextView sQuestionName,
                                     Compare eCompare = Compare::IgnoreCase) const noexcept;
 

@@ -45,7 +45,7 @@ void clsHTDRDDSequence::AddArray(const Array<std::int32_t>& Value, Where at) {
 }
 
 void clsHTDRDDSequence::AddDelimitedString(TextView Items, TextView sDelimiter, Where at) {
-    if (Items.empty()) throw Failure(Err::Subscript, at); // no array can be sized for it
+    if (Items.empty()) throw Failure(Err::Subscript, at); // there is no array of size 0
     std::vector<std::int32_t> numbers;
     EachPiece(Items, sDelimiter, [&](TextView piece) {
         numbers.push_back(Rounded<std::int32_t>(LeadingNumber(piece, at), at));

@@ -10,33 +10,34 @@
 
 namespace htdrdd {
 
-/// A list of question positions, which checks nothing. What isn't noexcept fails to the caller.
+/// A list of question positions, which checks nothing. Members that aren't noexcept pass failures to the
+/// caller.
 class clsHTDRDDSequence final : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDSequence"; }
 
     [[nodiscard]] std::int32_t Count() const noexcept { return mItems.Count(); }
-    /// Fails as the Add of every list does: 457 key in use, 9 or 5 a place that isn't there, 5 both places.
+    /// Fails as the Add of every list: 457 key in use, 9 or 5 missing entry in Before or After, 5 both given.
     void Add(std::int32_t lItem, const NewKey& Key = {}, const Index& Before = {}, const Index& After = {},
              Where at = Where::current());
-    /// Fails with 9 for a position that isn't there.
+    /// Fails with 9 for a missing position.
     void Remove(std::int32_t lIndex, Where at = Where::current());
     void RemoveAll() noexcept { mItems.RemoveAll(); }
 
-    /// The item, or 0 where there is none.
+    /// The item, or 0 if there is none.
     [[nodiscard]] std::int32_t Item(std::int32_t lIndex) const noexcept;
-    /// Replaces an item; where there is none, nothing happens. A failure is reported.
+    /// Replaces an item; does nothing if there is none. A failure is reported.
     void Item(std::int32_t lIndex, std::int32_t lNew) noexcept;
     [[nodiscard]] bool Exists(std::int32_t lIndex) const noexcept { return mItems.Exists(lIndex); }
 
-    /// The items from lLowerBound on; with no items an array without storage.
+    /// The items as an array from lLowerBound; without storage if there are no items.
     [[nodiscard]] Array<std::int32_t> AsArray(std::int32_t lLowerBound = 1) const;
     /// The items in decimal with the delimiter between them.
     [[nodiscard]] Text AsString(TextView sDelimiter = u"\t") const;
-    /// An array without storage fails with 9.
+    /// Fails with 9 for an array without storage.
     void AddArray(const Array<std::int32_t>& Value, Where at = Where::current());
-    /// Adds the number at the start of each piece, rounded. Fails, with nothing added, with 9 for an empty
-    /// text and with 6 for a number that is no 32-bit integer.
+    /// Adds the number at the start of each piece, rounded. Fails, and adds nothing, with 9 for an empty text
+    /// and with 6 for a number outside the range of 32-bit integers.
     void AddDelimitedString(TextView Items, TextView sDelimiter = u"\t", Where at = Where::current());
 
 private:

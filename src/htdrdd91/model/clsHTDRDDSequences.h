@@ -1,4 +1,4 @@
-/// The sequences of a scrambled test, one a version.
+/// The sequences of a scrambled test, one per version.
 #pragma once
 
 #include "htdrdd91/base/object_list.h"
@@ -8,13 +8,13 @@
 
 namespace htdrdd {
 
-/// Add and Remove fail to the caller for a bad key, place or index.
+/// The failure of Add and Remove for a bad key, place or index passes to the caller.
 class clsHTDRDDSequences final : public ObjectList<clsHTDRDDSequence> {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDSequences"; }
 
-    /// Adds a sequence that keeps the questions in their printed order. False, with nothing changed, where
-    /// there is a sequence already. A number of 0 or less adds an empty sequence.
+    /// Adds a sequence in the printed order of the questions. Returns false, and changes nothing, if there is
+    /// a sequence already. A number of 0 or less adds an empty sequence.
     bool AddDefault(std::int32_t lNumQuestions);
 };
 

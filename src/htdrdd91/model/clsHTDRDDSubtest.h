@@ -12,8 +12,8 @@ class clsHTDRDDSubtest final : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDSubtest"; }
 
-    LazyRef<clsHTDRDDGradeScale> GradeScale;   ///< never reads as empty: made on first access
-    LazyRef<clsHTDRDDScaledScore> ScaledScore; ///< the same
+    LazyRef<clsHTDRDDGradeScale> GradeScale;   ///< never empty: created on first access
+    LazyRef<clsHTDRDDScaledScore> ScaledScore; ///< likewise
     double Benchmark = HTDValueUndefined;
     Text SubtestName; ///< the default member
     Text Description;

@@ -1,4 +1,4 @@
-/// The subtests of a definition.
+/// The learning objectives of a definition.
 #pragma once
 
 #include "htdrdd91/base/late_bound.h"
@@ -9,21 +9,21 @@
 
 namespace htdrdd {
 
-/// The subtests; position 1 is the overall one. Removing one doesn't touch the memberships in the questions.
-/// A bad index fails to the caller.
+/// The learning objectives; position 1 is the overall one. Removing one doesn't change the memberships of
+/// questions. The failure for a bad index passes to the caller.
 class clsHTDRDDSubtests final : public ObjectList<clsHTDRDDSubtest, LateBound> {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDSubtests"; }
 
-    /// Adds at the end, or before or after an entry, under the key if there is one. A key that is in use and
-    /// a place that isn't there are failures: reported, and nothing is added.
+    /// Adds at the end, or before or after an entry, with the key if there is one. A key in use and a missing
+    /// entry in Before or After are failures: reported, and nothing is added.
     void Add(Ref<clsHTDRDDSubtest> Item, const NewKey& Key = {}, const Index& Before = {},
              const Index& After = {}) noexcept;
 
-    /// Position of the first subtest of a name, case counting; 0 if there is none. A failure is reported.
+    /// Position of the first learning objective with the name (case-sensitive), or 0. A failure is reported.
     [[nodiscard]] std::int32_t Find(TextView sSubtest) const noexcept;
 
-    /// Bound by name: Find.
+    /// The member bound by name: Find.
     Variant Call(TextView name, std::span<Variant> arguments) override;
 };
 

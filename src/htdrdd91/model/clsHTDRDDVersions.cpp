@@ -10,7 +10,7 @@ HTDVersionType clsHTDRDDVersions::VType() const noexcept {
         const std::int32_t sequences = Sequences->Count();
         const std::int32_t answers = Answers->Count();
         const bool told = answers >= 2 && Question >= 1;
-        // One sequence alone doesn't make a scrambled test: it is the printed order.
+        // A single sequence doesn't make a scrambled test: it is the printed order.
         if (sequences < 2 && told)
             result = HTDVersionTypeKey;
         else if (sequences == answers && told)

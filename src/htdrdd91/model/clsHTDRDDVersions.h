@@ -21,9 +21,9 @@ public:
 
     Ref<clsHTDRDDSequences> Sequences = Make<clsHTDRDDSequences>(); ///< one for each scrambled version
     Ref<clsHTDRDDStrings> Answers = Make<clsHTDRDDStrings>();       ///< version identifiers, in version order
-    std::int32_t Question = 0; ///< position of the question that tells the version; 0: none
+    std::int32_t Question = 0; ///< position of the question that identifies the version; 0: none
 
-    /// The scheme, derived from what is filled in. HTDVersionTypeNone after a failure, which is reported.
+    /// The type, derived from the members above. HTDVersionTypeNone after a failure, which is reported.
     [[nodiscard]] HTDVersionType VType() const noexcept;
 };
 

@@ -1,5 +1,4 @@
-/// The members of questions and of learning objectives, each once: files, merges, JSON and tests walk these
-/// lists.
+/// The lists of the members of questions and of learning objectives, for files, merges, JSON and tests.
 #pragma once
 
 #include "htdrdd91/base/class_members.h"

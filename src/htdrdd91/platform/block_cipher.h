@@ -7,7 +7,7 @@
 
 namespace htdrdd {
 
-/// Blowfish on blocks of 8 bytes, each block by itself.
+/// Blowfish on blocks of 8 bytes, each enciphered independently.
 class BlockCipher {
 public:
     BlockCipher();
@@ -17,9 +17,9 @@ public:
 
     static constexpr std::size_t kBlock = 8;
 
-    /// False where the key can't be used: it is too short, too long or weak.
+    /// Returns false if the key is unusable: too short, too long or weak.
     [[nodiscard]] bool SetKey(std::string_view key) noexcept;
-    /// Both take whole blocks and give as many bytes.
+    /// Both take whole blocks and return as many bytes.
     [[nodiscard]] std::string Encrypt(std::string_view bytes) const;
     [[nodiscard]] std::string Decrypt(std::string_view bytes) const;
 

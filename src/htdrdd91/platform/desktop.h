@@ -1,4 +1,4 @@
-/// What the library shows to a person itself, and how it waits.
+/// Direct output to the user, and waiting.
 #pragma once
 
 #include "htdrdd91/base/text.h"
@@ -8,7 +8,7 @@
 namespace htdrdd {
 
 /// The desktop of a machine without a screen: there is no pointer, and a message box writes its caption and
-/// its prompt to standard error. Tests put a recording one in its place.
+/// prompt to standard error. Tests substitute a recording desktop.
 class Desktop {
 public:
     Desktop() = default;
@@ -16,17 +16,18 @@ public:
     Desktop& operator=(const Desktop&) = delete;
     virtual ~Desktop() = default;
 
-    /// Shows the pointer of that kind; 0 is the default one.
+    /// Shows the pointer of the given kind; 0 is the default pointer.
     virtual void MousePointer(std::int32_t kind);
-    /// Shows a text and waits until it has been seen.
+    /// Shows a text and waits until the user has seen it.
     virtual void MsgBox(TextView prompt, std::int32_t flags, TextView caption);
-    /// Lets time pass and pending events run.
+    /// Waits, and lets pending events run.
     virtual void Pause(std::int32_t milliseconds);
 };
 
-/// The desktop that this thread shows things on.
+/// The desktop of this thread.
 [[nodiscard]] Desktop& CurrentDesktop();
-/// Replaces it; a null pointer goes back to that of the machine. The caller keeps it alive.
+/// Replaces the desktop of this thread; a null pointer restores that of the machine. The caller keeps
+/// `desktop` alive.
 void UseDesktop(Desktop* desktop);
 
 } // namespace htdrdd

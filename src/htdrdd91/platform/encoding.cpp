@@ -50,7 +50,7 @@ void AppendCharacter(Text& out, UChar32 character) {
     }
 }
 
-/// Calls `character(UChar32, units)` for each character; an unpaired surrogate comes by itself.
+/// Calls `character(UChar32)` for each character; an unpaired surrogate is a character of its own.
 template <class Each>
 void EachCharacter(TextView text, Each character) {
     for (std::size_t i = 0; i < text.size();) {
@@ -60,7 +60,7 @@ void EachCharacter(TextView text, Each character) {
     }
 }
 
-/// Decodes UTF-8 and hands each byte that doesn't fit to `stray`.
+/// Decodes UTF-8 and passes each invalid byte to `stray`.
 template <class Stray>
 Text Decode(std::string_view bytes, Stray stray) {
     Text out;
@@ -115,7 +115,7 @@ Text FromNativePath(std::string_view bytes) {
 Text FromCharacterSet(std::string_view bytes, const char* name) {
     UErrorCode status = U_ZERO_ERROR;
     const Converter converter(ucnv_open(name, &status), &ucnv_close);
-    Text text(bytes.size() * 2, u'\0'); // no byte makes more than two units
+    Text text(bytes.size() * 2, u'\0'); // a byte decodes to at most two units
     const auto length =
         converter ? ucnv_toUChars(converter.get(), text.data(), static_cast<std::int32_t>(text.size()),
                                   bytes.data(), static_cast<std::int32_t>(bytes.size()), &status)

@@ -6,7 +6,7 @@
 namespace htdrdd {
 namespace {
 
-// Reading into a less aligned block can cost several times as much.
+// Reading into a less aligned block can take several times as long.
 constexpr std::align_val_t kAlignment{64};
 
 } // namespace

@@ -1,4 +1,4 @@
-/// The files of the machine, behind one seam that tests replace.
+/// The files of the machine, through an interface that tests replace.
 #pragma once
 
 #include "htdrdd91/base/failure.h"
@@ -17,14 +17,14 @@ namespace htdrdd {
 class Bytes {
 public:
     Bytes() = default;
-    /// Room for bytes whose content is not set yet.
+    /// Allocates bytes without initializing them.
     explicit Bytes(std::size_t size);
 
     [[nodiscard]] char* Data() noexcept { return data_.get(); }
     [[nodiscard]] std::string_view View() const noexcept { return {data_.get(), data_ ? size_ : 0}; }
-    /// Makes room for more behind the bytes that are there.
+    /// Enlarges the block to `size` bytes and keeps its content.
     void Grow(std::size_t size);
-    /// Forgets what stands behind the first `size` bytes.
+    /// Drops the bytes after the first `size`.
     void Shorten(std::size_t size) noexcept { size_ = size; }
 
 private:
@@ -35,11 +35,11 @@ private:
     std::size_t size_ = 0;
 };
 
-/// Who may do what with a file, in the system's own terms.
+/// The permissions of a file, as the operating system encodes them.
 using FileMode = std::uint32_t;
 inline constexpr FileMode kOwnerOnly = 0600;
 
-/// A file that is being written. Destroying it without Close drops what Close would have reported.
+/// A file being written. The destructor closes an open file too, but ignores errors that Close would report.
 class FileWriter {
 public:
     FileWriter() = default;
@@ -50,9 +50,9 @@ public:
     virtual void Close(Where at = Where::current()) = 0;
 };
 
-/// The file system. Names are literal, without wildcards, and a name with NUL fails with 52. Other failures:
-/// 53 no such file, 76 no such folder, 58 it is there already, 70 a folder or no right, 61 disk full, 57
-/// device, 75 anything else.
+/// The file system. Names are literal, without wildcards; a name with NUL fails with 52. Other failures: 53
+/// no such file, 76 no such folder, 58 the name exists, 70 a folder or no permission, 61 disk full, 57 device
+/// error, 75 any other error.
 class FileSystem {
 public:
     FileSystem() = default;
@@ -60,35 +60,35 @@ public:
     FileSystem& operator=(const FileSystem&) = delete;
     virtual ~FileSystem() = default;
 
-    /// True for regular files only. Nothing fails.
+    /// True for regular files only. Never fails.
     [[nodiscard]] virtual bool FileExists(TextView path) = 0;
     [[nodiscard]] virtual bool FolderExists(TextView path) = 0;
-    /// The first bytes of a file, as many as there are up to the limit.
+    /// The first bytes of a file, up to the limit.
     [[nodiscard]] virtual Bytes Read(TextView path,
                                      std::size_t limit = std::numeric_limits<std::size_t>::max(),
                                      Where at = Where::current()) = 0;
-    /// The last bytes of a file, as many as there are up to the limit.
+    /// The last bytes of a file, up to the limit.
     [[nodiscard]] virtual Bytes ReadEnd(TextView path, std::size_t limit, Where at = Where::current()) = 0;
-    /// Makes a new file, for its owner only. Fails with 58 where there is anything under that name.
+    /// Creates a file that only its owner can access. Fails with 58 if the name exists.
     [[nodiscard]] virtual std::unique_ptr<FileWriter> Create(TextView path, Where at = Where::current()) = 0;
-    /// Opens a file to write at its end; it is made where it is missing.
+    /// Opens a file for appending; creates a missing file.
     [[nodiscard]] virtual std::unique_ptr<FileWriter> OpenForAppending(TextView path,
                                                                        Where at = Where::current()) = 0;
-    /// Copies a file to a new name, with the given rights or else those that the machine gives to new files;
-    /// or over another file, which keeps its own. After a failure there is no part of a copy, and what was
-    /// there still is.
+    /// Copies a file. A new file gets the given permissions, or else those that the machine gives to new
+    /// files; an existing file keeps its own. After a failure no partial copy remains, and an existing file
+    /// is unchanged.
     virtual void CopyFile(TextView from, TextView to, std::optional<FileMode> mode = {},
                           Where at = Where::current()) = 0;
-    /// Deletes a file, also a read-only one.
+    /// Deletes a file, even a read-only one.
     virtual void DeleteFile(TextView path, Where at = Where::current()) = 0;
-    /// None where there is no file.
+    /// std::nullopt if the file doesn't exist.
     [[nodiscard]] virtual std::optional<FileMode> ModeOf(TextView path) = 0;
     virtual void SetMode(TextView path, FileMode mode, Where at = Where::current()) = 0;
-    /// The file that a link leads to in the end; the path itself where it is no link or leads nowhere.
+    /// The file to which a link finally leads; the path itself if it is not a link or leads nowhere.
     [[nodiscard]] virtual Text Resolved(TextView path) = 0;
-    /// Makes a folder for its owner only. Fails with 58 where there is anything under that name.
+    /// Creates a folder that only its owner can access. Fails with 58 if the name exists.
     virtual void CreateFolder(TextView path, Where at = Where::current()) = 0;
-    /// Deletes a folder with all that is in it. Links are deleted, not followed.
+    /// Deletes a folder with its content. Links are deleted, not followed.
     virtual void DeleteFolder(TextView path, Where at = Where::current()) = 0;
     /// The folder for temporary files.
     [[nodiscard]] virtual Text TemporaryFolder(Where at = Where::current()) = 0;
@@ -97,16 +97,17 @@ public:
 /// The file system of the operating system.
 [[nodiscard]] FileSystem& MachineFileSystem();
 
-/// The file system that this thread works on, at first that of the machine.
+/// The file system of this thread, initially that of the machine.
 [[nodiscard]] FileSystem& CurrentFileSystem();
-/// Replaces it; a null pointer goes back to that of the machine. The caller keeps it alive.
+/// Replaces the file system of this thread; a null pointer restores that of the machine. The caller keeps
+/// `files` alive.
 void UseFileSystem(FileSystem* files);
 
-/// A folder and a name with one separator between them.
+/// Joins a folder and a name with one separator.
 [[nodiscard]] Text BuildPath(TextView folder, TextView name);
 /// The last part of a path.
 [[nodiscard]] TextView FileNameOf(TextView path) noexcept;
-/// What stands in front of the last part, without the separator; empty where there is nothing.
+/// The path without its last part and without the separator before that; empty if nothing remains.
 [[nodiscard]] TextView FolderOf(TextView path) noexcept;
 
 } // namespace htdrdd

@@ -32,7 +32,7 @@ bool IsOfType(TextView path, mode_t type) noexcept {
     }
 }
 
-/// The failure for what the system said about a path.
+/// Converts the system's error number for a path to a failure.
 Failure FileFailure(int error, TextView path, Where at) {
     switch (error) {
     case ENOENT: {
@@ -55,17 +55,17 @@ Failure FileFailure(int error, TextView path, Where at) {
     }
 }
 
-constexpr mode_t kOfNewFile = 0666; // less what the user's mask takes away
+constexpr mode_t kOfNewFile = 0666; // reduced by the user's umask
 constexpr mode_t kOfOwnersFolder = 0700;
 
 class Descriptor {
 public:
     Descriptor(TextView path, int flags, Where at, mode_t mode = kOfNewFile) {
-        // O_NONBLOCK: a pipe must not hold up whoever opens it.
+        // O_NONBLOCK: opening a pipe must not block.
         fd_ = ::open(Native(path, at).c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, mode);
         if (fd_ < 0) throw FileFailure(errno, path, at);
     }
-    /// Takes over what is open; -1 is what the last call failed with.
+    /// Adopts an open descriptor; -1 means that the call that opened it has just failed.
     Descriptor(int fd, TextView path, Where at) : fd_(fd) {
         if (fd_ < 0) throw FileFailure(errno, path, at);
     }
@@ -75,14 +75,14 @@ public:
         if (fd_ >= 0) ::close(fd_);
     }
     [[nodiscard]] int Get() const noexcept { return fd_; }
-    /// Closes and gives the system's error number, 0 for none.
+    /// Closes the file. Returns the system's error number, 0 if there is none.
     int Close() noexcept { return ::close(std::exchange(fd_, -1)) == 0 ? 0 : errno; }
 
 private:
     int fd_ = -1;
 };
 
-/// A regular file opened to read; anything else fails with 70.
+/// A regular file opened for reading; any other file fails with 70.
 class Source {
 public:
     Source(TextView path, Where at) : file_(path, O_RDONLY, at), path_(path) {
@@ -92,9 +92,9 @@ public:
     [[nodiscard]] int Get() const noexcept { return file_.Get(); }
     [[nodiscard]] std::size_t Size() const noexcept { return static_cast<std::size_t>(status_.st_size); }
 
-    /// The bytes from a place on.
+    /// Reads up to `limit` bytes from the given place on.
     [[nodiscard]] Bytes Read(std::size_t place, std::size_t limit, Where at) const {
-        // One byte more than the file has, so that its end shows; the size may be out of date or not be told.
+        // One byte more than the file has, to detect its end; the size may be outdated or unknown.
         Bytes bytes(std::min(limit, Size() - std::min(place, Size()) + 1));
         std::size_t filled = 0;
         while (filled < limit) {
@@ -139,8 +139,8 @@ private:
     Descriptor file_;
 };
 
-/// A copy in the making. One that is to replace a file grows beside it, with that one's rights, and takes its
-/// place when it is whole. One that isn't finished is deleted.
+/// A copy in progress. A copy that replaces a file is written beside that file, with its permissions, and
+/// takes its place when complete. An unfinished copy is deleted.
 class Copy {
 public:
     Copy(const Source& source, TextView to, std::optional<FileMode> mode, Where at)
@@ -155,7 +155,7 @@ public:
                                 : ::open(draft_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
                                          mode ? kOwnerOnly : kOfNewFile),
                       path_, at);
-        if (mode) ::fchmod(file_->Get(), *mode); // as near as it can be had here
+        if (mode) ::fchmod(file_->Get(), *mode); // as far as possible on this file system
     }
     Copy(const Copy&) = delete;
     Copy& operator=(const Copy&) = delete;
@@ -166,7 +166,7 @@ public:
     void Fill(Where at) const {
         constexpr std::size_t kPiece = std::size_t{1} << 30U;
         ssize_t sent = 0;
-        do { // within the system
+        do { // the kernel copies
             sent = ::sendfile(file_->Get(), source_.Get(), nullptr, kPiece);
         } while (sent > 0 || (sent < 0 && errno == EINTR));
         if (sent == 0) return;

@@ -1,12 +1,12 @@
-/// The region that the machine is set to.
+/// The region from the machine's settings.
 #pragma once
 
 #include "htdrdd91/base/region.h"
 
 namespace htdrdd {
 
-/// What the machine's locale settings say, read without changing the process's locale. Settings that name no
-/// installed locale give the defaults above.
+/// Reads the machine's locale settings without changing the process's locale. Settings that name no installed
+/// locale yield the defaults of Region.
 [[nodiscard]] Region MachineRegion();
 
 } // namespace htdrdd

@@ -28,12 +28,12 @@ Region MachineRegion() {
     };
 
     if (const char16_t decimal = mark(RADIXCHAR); decimal != u'\0') region.decimalMark = decimal;
-    // The plain "C" settings name neither group mark nor currency nor a form that people use for dates.
+    // The "C" locale has no group mark, no currency sign and no date format for people.
     const Text currency = setting(CRNCYSTR);
     if (mark(THOUSEP) == u'\0' && currency.size() < 2) return region;
     region.groupMark = mark(THOUSEP);
     region.currencySign =
-        currency.empty() ? Text() : currency.substr(1); // behind the letter that tells its place
+        currency.empty() ? Text() : currency.substr(1); // after the character that tells its place
     const Text time = setting(T_FMT);
     const bool twelveHours = std::any_of(kTwelveHourForms.begin(), kTwelveHourForms.end(),
                                          [&](TextView form) { return time.find(form) != Text::npos; });

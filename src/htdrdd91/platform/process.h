@@ -7,17 +7,17 @@
 
 namespace htdrdd {
 
-/// The shared object that holds this code, or the program where it is linked statically, and its folder.
+/// The shared object that holds this code, or the program if it is linked statically; and its folder.
 [[nodiscard]] Text ModuleFile();
 [[nodiscard]] Text ModuleFolder();
 
-/// A number that tells this running instance and thread from others.
+/// A number that distinguishes this process and thread from others.
 [[nodiscard]] std::uint32_t InstanceNumber() noexcept;
 
-/// A number that is another one at every call, in this and in other instances.
+/// A number that differs at every call, in this and in other processes.
 [[nodiscard]] std::uint64_t Seed() noexcept;
 
-/// The present date and time in the region's form.
+/// The current date and time in the region's format.
 [[nodiscard]] Text GeneralDateNow();
 
 } // namespace htdrdd

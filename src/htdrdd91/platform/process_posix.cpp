@@ -24,7 +24,8 @@ std::filesystem::path ModulePath() {
     Dl_info module{};
     Dl_info program{};
     const bool known = ::dladdr(reinterpret_cast<const void*>(&ModulePath), &module) != 0;
-    // The system's entry address, the only name of the program itself that holds however it was started.
+    // The entry address from the system is the only name of the program itself that holds however it was
+    // started.
     const auto* const entry =
         reinterpret_cast<const void*>(::getauxval(AT_ENTRY)); // NOLINT(performance-no-int-to-ptr)
     const bool isProgram = ::dladdr(entry, &program) != 0 && program.dli_fbase == module.dli_fbase;
@@ -48,7 +49,7 @@ std::uint32_t InstanceNumber() noexcept { return static_cast<std::uint32_t>(::ge
 std::uint64_t Seed() noexcept {
     static std::atomic<std::uint64_t> calls{0};
     const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
-    // Spread, so that neighbouring seeds don't give neighbouring numbers.
+    // Mixed, so that neighbouring seeds don't lead to neighbouring numbers.
     std::uint64_t seed = static_cast<std::uint64_t>(ticks) + (std::uint64_t{InstanceNumber()} << 32U) +
                          ++calls * 0x9E3779B97F4A7C15U;
     seed = (seed ^ (seed >> 30U)) * 0xBF58476D1CE4E5B9U;

@@ -9,10 +9,10 @@
 namespace htdrdd {
 namespace {
 
-/// Place of the first line feed, or npos.
+/// Position of the first line feed, or npos.
 std::size_t FindLineFeed(TextView text) noexcept {
-    // Byte by byte, since that search is the fast one of every C library; a byte that is half of another
-    // character is passed over.
+    // Searches for the byte, since memchr is fast in every C library; skips bytes that are half of another
+    // character.
     const auto* const start = reinterpret_cast<const char*>(text.data());
     const char* const end = start + text.size() * sizeof(char16_t);
     for (const char* at = start; at < end; ++at) {

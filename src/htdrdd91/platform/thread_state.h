@@ -1,4 +1,4 @@
-/// What exists once for each thread.
+/// The state of each thread.
 #pragma once
 
 #include "htdrdd91/base/late_bound.h"
@@ -14,14 +14,14 @@ namespace htdrdd {
 
 struct ThreadState {
     Region region = MachineRegion();
-    FileSystem* files = nullptr;          ///< none: that of the machine
-    Desktop* desktop = nullptr;           ///< none: that of the machine
-    Ref<LateBound> errorHost;             ///< what complaints are handed to, if anything
-    std::vector<Ref<Object>> globals;     ///< what outside hosts use without creating it
-    std::shared_ptr<void> outsideFailure; ///< what the last member called from outside failed with
+    FileSystem* files = nullptr;          ///< null: that of the machine
+    Desktop* desktop = nullptr;           ///< null: that of the machine
+    Ref<LateBound> errorHost;             ///< receives complaints; may be empty
+    std::vector<Ref<Object>> globals;     ///< objects that outside hosts use without creating them
+    std::shared_ptr<void> outsideFailure; ///< failure of the last member called from outside
 };
 
-/// The state of the calling thread. It is made on first use and ends with the thread.
+/// The state of the calling thread. Created on first use; ends with the thread.
 [[nodiscard]] ThreadState& ThisThread();
 
 } // namespace htdrdd

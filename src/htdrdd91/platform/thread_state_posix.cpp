@@ -7,9 +7,9 @@
 namespace htdrdd {
 namespace {
 
-// A plain pointer for each thread: on some targets thread-local objects with destructors crash when a thread
-// ends. The key only serves to be told of that end. The pointer lies in the room that is kept for libraries
-// loaded at run time: it is reached at once, and leak checkers look there.
+// A plain pointer per thread: on some targets thread-local objects with destructors crash when a thread ends.
+// The key only reports that end. The pointer is in the storage reserved for libraries loaded at run time:
+// access to it is fast, and leak checkers look there.
 [[gnu::tls_model("initial-exec")]] thread_local ThreadState* state = nullptr;
 
 extern "C" void EndOfThread(void* ended) {

@@ -15,27 +15,28 @@ namespace {
 struct Freer {
     void operator()(xmlDoc* document) const noexcept { ::xmlFreeDoc(document); }
     void operator()(xmlParserCtxt* parser) const noexcept {
-        if (parser->myDoc != nullptr) ::xmlFreeDoc(parser->myDoc); // where it was no document
+        if (parser->myDoc != nullptr) ::xmlFreeDoc(parser->myDoc); // left by a failed parse
         ::xmlFreeParserCtxt(parser);
     }
 };
 template <class T>
 using Handle = std::unique_ptr<T, Freer>;
 
-constexpr std::size_t kMostUnits = 100'000'000; ///< 1,000 million bytes are read, and '"' takes 6 of them
+constexpr std::size_t kMostUnits = 100'000'000; ///< the reader takes 1,000 million bytes, and '"' needs 6
 
-/// What the XML library gives no object for is memory that can't be had.
+/// Checks a result of the XML library, which returns a null pointer only if it has no memory.
 template <class T>
 T* Had(T* object) {
     if (object == nullptr) throw std::bad_alloc();
     return object;
 }
 
-/// Listens to the XML library, which prints otherwise, on this thread, whose host may use it as well.
+/// Receives the errors of the XML library, which prints them otherwise. Restores the previous handler of this
+/// thread at the end, since the host may use the library as well.
 class Listening {
 public:
     Listening() {
-        // Once, before anything else of the library is touched.
+        // Once, before any other use of the library.
         static const bool initialized = (::xmlInitParser(), true);
         static_cast<void>(initialized);
         handler_ = xmlStructuredError; // both are macros
@@ -47,7 +48,7 @@ public:
     Listening(const Listening&) = delete;
     Listening& operator=(const Listening&) = delete;
     ~Listening() { ::xmlSetStructuredErrorFunc(context_, handler_); }
-    /// The library may leave out what it has no memory for, and only tell so.
+    /// The library may omit parts for which it has no memory, and only report an error.
     void DemandMemory() const {
         if (noMemory_) throw std::bad_alloc();
     }
@@ -80,7 +81,7 @@ const xmlNode* SkippingBlanks(const xmlNode* node) noexcept {
     return node;
 }
 
-/// The library's own 8-bit text. It has to outlive what is made of it.
+/// A text as the XML library takes it. It must outlive the result.
 const xmlChar* Units(const std::string& text) {
     return reinterpret_cast<const xmlChar*>(text.c_str()); // NOLINT(*-reinterpret-cast)
 }
@@ -109,7 +110,7 @@ std::optional<Text> XmlNode::Attribute(TextView name) const {
     while (attribute != nullptr && !IsNamed(attribute->name, attribute->ns, name))
         attribute = attribute->next;
     if (attribute == nullptr) return {};
-    std::string value; // without a document type there is nothing but texts in it
+    std::string value; // without a document type its nodes are all texts
     for (const xmlNode* text = attribute->children; text != nullptr; text = text->next)
         if (text->content != nullptr) value += Chars(text->content);
     return FromUtf8(value);
@@ -131,12 +132,12 @@ XmlNode XmlNode::NextSibling() const noexcept {
 
 namespace {
 
-/// A document as UTF-8 without a byte order mark; nothing where it isn't text that can stand in XML.
+/// A document as UTF-8 without a byte order mark; std::nullopt if it is not text that XML can hold.
 std::optional<std::string> Decoded(std::string_view bytes) {
     const bool isLittleEndian = bytes.starts_with(kUtf16Mark);
     if (!isLittleEndian && !bytes.starts_with("\xFE\xFF")) {
         if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
-        // At a NUL the XML library would see the end.
+        // The XML library would take a NUL for the end.
         return bytes.find('\0') == std::string_view::npos ? std::optional<std::string>(bytes) : std::nullopt;
     }
     bytes.remove_prefix(kUtf16Mark.size());
@@ -145,8 +146,8 @@ std::optional<std::string> Decoded(std::string_view bytes) {
     return CanStandInXml(text) ? std::optional(ToUtf8(text)) : std::nullopt;
 }
 
-/// Whether elements are nested too deep, or one has more attributes than any file of ours: the XML library
-/// compares each one with each.
+/// Whether elements are nested too deep, or an element has more attributes than any file of this library: the
+/// XML library compares each attribute with every other.
 bool IsTooMuch(std::string_view xml) {
     constexpr int kDeepest = 250;
     constexpr int kMostAttributes = 500;
@@ -185,7 +186,7 @@ bool IsTooMuch(std::string_view xml) {
     return false;
 }
 
-/// Hands the XML library the next piece of a document.
+/// Passes the next piece of a document to the XML library.
 int ReadPiece(void* context, char* piece, int length) {
     auto& rest = *static_cast<std::string_view*>(context);
     const std::size_t size = rest.copy(piece, static_cast<std::size_t>(length));
@@ -204,7 +205,7 @@ XmlReader::XmlReader(std::string_view bytes) : document_(std::make_unique<Docume
     if (!decoded || IsTooMuch(*decoded)) return;
     const Listening listening;
     const Handle<xmlParserCtxt> parser(Had(::xmlNewParserCtxt()));
-    // A document type ends it before anything that it declares is looked at.
+    // A document type stops the parser before any of its declarations is read.
     parser->sax->internalSubset = [](void* context, const xmlChar* /*name*/, const xmlChar* /*external*/,
                                      const xmlChar* /*system*/) {
         auto* const stopped = static_cast<xmlParserCtxt*>(context);
@@ -212,7 +213,7 @@ XmlReader::XmlReader(std::string_view bytes) : document_(std::make_unique<Docume
         ::xmlStopParser(stopped);
     };
     std::string_view rest = *decoded;
-    // Without the library's limits, since it could refuse what was written here; IsTooMuch has others.
+    // Without the library's limits, which could refuse files written here; IsTooMuch has its own.
     Handle<xmlDoc> xml(::xmlCtxtReadIO(parser.get(), ReadPiece, nullptr, &rest, nullptr, "UTF-8",
                                        XML_PARSE_NONET | XML_PARSE_NOBLANKS | XML_PARSE_NOERROR |
                                            XML_PARSE_NOWARNING | XML_PARSE_COMPACT | XML_PARSE_IGNORE_ENC |
@@ -236,7 +237,7 @@ struct XmlWriter::Document {
 XmlWriter::XmlWriter() : document_(std::make_unique<Document>()) {
     const Listening listening;
     document_->xml.reset(Had(::xmlNewDoc(nullptr)));
-    // Without it characters beyond ASCII would be written as numbers.
+    // Without an encoding, characters beyond ASCII would be written as numbers.
     document_->xml->encoding = Had(::xmlCharStrdup("UTF-8"));
 }
 

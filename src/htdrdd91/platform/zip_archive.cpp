@@ -12,12 +12,11 @@ namespace {
 
 constexpr std::string_view kEndRecord("PK\5\6", 4);
 constexpr std::size_t kFarthestEndRecord =
-    65535 + 22 + 20; // bytes from the end: comment, record, its 64-bit kin
+    65535 + 22 + 20; // bytes from the end: comment, end record, its 64-bit locator
 constexpr zip_uint64_t kMostHandedOut = zip_uint64_t{1} << 30U; // many members may share the same bytes
 constexpr std::size_t kPiece = std::size_t{1} << 18U;
 constexpr zip_uint32_t kDeflateLevel = 5;
-constexpr zip_uint32_t kOwnersFile = 0100600U
-                                     << 16U; // a plain file for its owner, as Unix programs unpack it
+constexpr zip_uint32_t kOwnersFile = 0100600U << 16U; // a regular file for its owner, when unpacked on Unix
 
 struct Closer {
     void operator()(zip_t* archive) const noexcept { ::zip_discard(archive); }
@@ -27,12 +26,12 @@ struct Closer {
 template <class T>
 using Handle = std::unique_ptr<T, Closer>;
 
-/// A source over bytes that outlive it.
+/// A source over bytes, which must outlive it.
 Handle<zip_source_t> SourceOver(std::string_view bytes) {
     return Handle<zip_source_t>(::zip_source_buffer_create(bytes.data(), bytes.size(), 0, nullptr));
 }
 
-/// The archive holds the source from then on; without one the source is freed.
+/// Opens an archive, which then owns the source. If there is no archive, the source is freed.
 Handle<zip_t> OpenFrom(Handle<zip_source_t> source, int flags) {
     if (!source) return {};
     Handle<zip_t> archive(::zip_open_from_source(source.get(), flags, nullptr));
@@ -54,7 +53,7 @@ struct ZipReader::Archive {
 
 ZipReader::ZipReader(FileSystem& files, TextView path, TextView password, Where at)
     : archive_(std::make_unique<Archive>()) {
-    if (!EndsLikeZip(files, path, at)) return; // it needn't be read
+    if (!EndsLikeZip(files, path, at)) return; // no archive: no need to read it
     bytes_ = files.Read(path, std::numeric_limits<std::size_t>::max(), at);
     archive_->zip = OpenFrom(SourceOver(bytes_.View()), ZIP_RDONLY);
     if (archive_->zip && !password.empty())
@@ -81,7 +80,7 @@ bool ZipReader::Read(std::int32_t member, const std::function<void(std::string_v
     zip_t* const zip = archive_->zip.get();
     const auto index = static_cast<zip_uint64_t>(member);
     zip_stat_t status;
-    // libzip 1.7 leaks when it is asked to open what it can't read.
+    // libzip 1.7 leaks memory when it opens a member that it can't read.
     if (::zip_stat_index(zip, index, 0, &status) != 0 ||
         ::zip_compression_method_supported(status.comp_method, 0) == 0 ||
         ::zip_encryption_method_supported(status.encryption_method, 0) == 0)
@@ -90,7 +89,7 @@ bool ZipReader::Read(std::int32_t member, const std::function<void(std::string_v
     if (!file) return false;
     Bytes room(kPiece);
     zip_int64_t got = 0;
-    // To the very end: only there the check sum is looked at.
+    // Read to the very end: the checksum is verified only there.
     while ((got = ::zip_fread(file.get(), room.Data(), kPiece)) > 0) {
         archive_->handedOut += static_cast<zip_uint64_t>(got);
         if (archive_->handedOut > kMostHandedOut) return false;
@@ -101,7 +100,7 @@ bool ZipReader::Read(std::int32_t member, const std::function<void(std::string_v
 
 struct ZipWriter::Archive {
     std::vector<Bytes> contents; ///< outlive the sources over them
-    Handle<zip_source_t> result; ///< where the archive is written
+    Handle<zip_source_t> result; ///< receives the archive
     Handle<zip_t> zip;
     std::string password;
 };

@@ -1,4 +1,4 @@
-/// Zip archives, as a whole in memory.
+/// Zip archives, held as a whole in memory.
 #pragma once
 
 #include "htdrdd91/base/text.h"
@@ -12,14 +12,14 @@
 
 namespace htdrdd {
 
-/// Whether there is an archive's end record where it would be: a file without one is no archive.
+/// Whether the last bytes of a file contain an archive's end record. A file without one is not an archive.
 [[nodiscard]] bool EndsLikeZip(FileSystem& files, TextView path, Where at = Where::current());
 
-/// An archive to read. The file is read when it is opened, and may be replaced from then on. Every method
-/// that the zip library knows is read, and every encryption.
+/// Reads an archive. The constructor reads the file, which may be replaced afterwards. Supports every
+/// compression and encryption method that the zip library knows.
 class ZipReader {
 public:
-    /// Fails as reading a file does. A file that is no archive, or one that is damaged, isn't open then.
+    /// Fails as reading a file does. If the file is damaged or is not an archive, IsOpen returns false.
     ZipReader(FileSystem& files, TextView path, TextView password, Where at = Where::current());
     ZipReader(const ZipReader&) = delete;
     ZipReader& operator=(const ZipReader&) = delete;
@@ -27,12 +27,12 @@ public:
 
     [[nodiscard]] bool IsOpen() const noexcept;
     [[nodiscard]] std::int32_t Count() const noexcept;
-    /// The last part of the name of a member, counted from 0: what stands behind "/", "\" and ":". Empty
-    /// where that is no name for a file, as for folders.
+    /// The last part of the name of a member, counted from 0: the part after "/", "\" and ":". Empty if that
+    /// is not a file name, as for folders.
     [[nodiscard]] Text FileName(std::int32_t member) const;
-    /// Hands out a member's content, piece by piece. False where it can't be read: with a wrong password, or
-    /// damaged, by an unknown method, or where it takes what was handed out of this archive past 1 GiB.
-    /// Pieces handed out before mean nothing then.
+    /// Passes on a member's content, piece by piece. Returns false if the password is wrong, the member is
+    /// damaged, its method is unknown, or this archive has passed on more than 1 GiB in total. The pieces
+    /// before that are then meaningless.
     [[nodiscard]] bool Read(std::int32_t member, const std::function<void(std::string_view)>& piece);
 
 private:
@@ -41,7 +41,7 @@ private:
     std::unique_ptr<Archive> archive_;
 };
 
-/// An archive to write, deflated, and with a password in the traditional encryption, which every program
+/// Writes an archive, deflated. With a password it uses the traditional encryption, which every program
 /// reads.
 class ZipWriter {
 public:
@@ -50,9 +50,9 @@ public:
     ZipWriter& operator=(const ZipWriter&) = delete;
     ~ZipWriter();
 
-    /// False where the zip library refuses it, such as a second member of a name.
+    /// Returns false if the zip library refuses the member, such as a second member of the same name.
     [[nodiscard]] bool Add(TextView name, Bytes content);
-    /// The archive's bytes; none where the zip library can't make it.
+    /// The archive's bytes; std::nullopt if the zip library can't create it.
     [[nodiscard]] std::optional<Bytes> Finish();
 
 private:

@@ -10,7 +10,7 @@
 
 namespace htdrdd {
 
-/// Which number of the respondent is looked up.
+/// The number of the respondent that is looked up.
 enum HTDScaledScoreValues : std::int32_t {
     HTDScaledScoreValuesNone = 0, ///< no scaled score is defined
     HTDScaledScoreValuesDBTotal = 1,
@@ -18,7 +18,7 @@ enum HTDScaledScoreValues : std::int32_t {
     HTDScaledScoreValuesDBPercentile = 3,
 };
 
-/// Which score a lookup criterion is taken from.
+/// The score that is a lookup criterion.
 enum HTDScaledScoreCriteria : std::int32_t {
     HTDScaledScoreCriteriaNone = 0,
     HTDScaledScoreCriteriaOverall = 1,
@@ -29,7 +29,7 @@ enum HTDScaledScoreCriteria : std::int32_t {
 
 class clsHTDRDDScaledScore final : public Object {
 public:
-    /// A new scaled score starts on HTDScaledScoreCriteriaOverall, a cleared one on
+    /// The primary criterion of a new scaled score is HTDScaledScoreCriteriaOverall, that of a cleared one
     /// HTDScaledScoreCriteriaNone. A failure is reported.
     clsHTDRDDScaledScore() noexcept;
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDScaledScore"; }
@@ -46,33 +46,33 @@ public:
     /// Empties the record; DB stays the same object and is reset. A failure is reported.
     void Clear() noexcept;
 
-    /// A new record with a DB of its own. Password is copied without its outer blanks. Empty after a failure,
+    /// A new record with its own DB. Password is copied without its outer blanks. Empty after a failure,
     /// which is reported.
     [[nodiscard]] Ref<clsHTDRDDScaledScore> Copy() const noexcept;
 
-    /// Whether the record can be used for a lookup. Learning objectives that it names are searched in oRDD,
-    /// which is bound by name as `oRDD.Subtests.Find(name)` and touched for nothing else. False for the first
-    /// broken rule, which is shown to the user only if bVerbose is true. A failure is reported and gives
-    /// what was found up to then: true, where only the search failed.
+    /// Whether the record can be used for a lookup. The learning objectives that it names are searched in
+    /// oRDD, bound by name as `oRDD.Subtests.Find(name)`; oRDD has no other use. Returns false for the first
+    /// broken rule, which is shown to the user only if bVerbose is true. A failure is reported, and the
+    /// result is the one reached so far: true if only the search failed.
     bool IsValid(const Variant& oRDD, bool bForLearningObjective, bool bVerbose = false) const noexcept;
 
-    /// All members but DB->Valid as pairs of a key, "=" and a value, with the delimiter between them. User,
-    /// password and connection string are enciphered. Values aren't protected against the delimiter. After a
-    /// failure, which is reported, the pairs up to then.
+    /// All members except DB->Valid as pairs of a key, "=" and a value, with the delimiter between them.
+    /// User, password and connection string are enciphered. Values aren't protected against the delimiter. A
+    /// failure is reported, and the result contains the pairs before it.
     [[nodiscard]] Text ToString(TextView sDelimiter = u"\t") const noexcept;
-    /// Clears the record and fills it from such pairs, in any order; values lose their outer blanks, and what
-    /// is no pair or has an unknown key is passed over. True where there is no pair at all, too. False after
-    /// a failure, which is reported, such as a number out of range, with what was filled up to then and what
-    /// was enciphered still so.
+    /// Clears the record and fills it from such pairs, in any order. Values lose their outer blanks; a piece
+    /// that isn't a pair or has an unknown key is skipped. Returns true even if there are no pairs. Returns
+    /// false after a failure, which is reported, such as a number out of range; the values read before it
+    /// stay, and enciphered ones stay enciphered.
     bool FromString(TextView sScaledScore, TextView sDelimiter = u"\t") noexcept;
 
-    /// Writes an exchange file with what ToString gives; an existing one is replaced. Whether the file is
-    /// there then. False after a failure, which is reported, such as a text with characters that XML can't
-    /// hold; an existing file is then still what it was.
+    /// Writes the values of ToString to an exchange file, replacing an existing one. Returns whether the file
+    /// exists afterwards. False after a failure, which is reported, such as a text with characters that XML
+    /// can't hold; an existing file is then unchanged.
     bool Export(TextView sFileName) const noexcept;
-    /// Clears the record and fills it from an exchange file. False in silence, with nothing changed, where
-    /// the file can't be read or is none of a scaled score. False after a failure, which is reported, with
-    /// what was filled up to then.
+    /// Clears the record and fills it from an exchange file. Returns false without a report, and changes
+    /// nothing, if the file can't be read or holds no scaled score. False after a failure, which is reported;
+    /// the values read before it stay.
     bool Import(TextView sFileName) noexcept;
 };
 

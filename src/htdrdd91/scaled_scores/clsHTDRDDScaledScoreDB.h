@@ -9,8 +9,8 @@
 
 namespace htdrdd {
 
-/// Where the table of a scaled score is and what its columns are called. The library only keeps these
-/// settings; opening the database is the host's affair.
+/// The location of the table of a scaled score and the names of its columns. The library only stores these
+/// settings; the host opens the database.
 class clsHTDRDDScaledScoreDB final : public Object {
 public:
     [[nodiscard]] TextView ClassName() const noexcept override { return u"clsHTDRDDScaledScoreDB"; }
@@ -22,8 +22,8 @@ public:
     Text MaxFieldPrimary;
     Text MinFieldSecondary;
     Text MaxFieldSecondary;
-    Text ScoreField;          ///< column that gives the scaled score
-    Text ScoreGrade;          ///< column that gives the grade
+    Text ScoreField;          ///< column with the scaled score
+    Text ScoreGrade;          ///< column with the grade
     std::int16_t DBType = -1; ///< a number that the host assigns to a kind of database; -1: none
     TrimmedText Connect;
     bool DirectoryBased = false;
@@ -31,13 +31,13 @@ public:
     Text DSNName;
     TrimmedText User;
     TextTrimmedOnRead Password;
-    bool Valid = true; ///< nothing in this library sets it to false
+    bool Valid = true; ///< this library never sets it to false
 
-    /// Gives every member its initial value.
+    /// Sets every member to its initial value.
     void Reset();
-    /// The same; outside hosts know it by this name, too.
+    /// The same, under the name that outside hosts know.
     void Class_Initialize() { Reset(); }
-    /// Takes every member over through its property.
+    /// Copies every member through its property.
     void Assign(const clsHTDRDDScaledScoreDB& source);
 };
 

@@ -8,9 +8,9 @@ namespace htdrdd {
 
 extern template class RecordLibrary<clsHTDRDDScaledScore, u"clsHTDScaledScoreManager">;
 
-/// Scaled scores, each held as its ToString text. What Item gives has DB->Valid true, since no text tells
-/// otherwise. LoadFromString passes over a piece that can't be read, and takes an empty one for a cleared
-/// record under the empty key.
+/// Scaled scores, each stored as its ToString text. Records from Item have DB->Valid true, since the text
+/// doesn't contain it. LoadFromString skips a piece that can't be read; an empty piece is a cleared record
+/// under the empty key.
 class clsHTDScaledScoreManager final
     : public RecordLibrary<clsHTDRDDScaledScore, u"clsHTDScaledScoreManager"> {
 private:

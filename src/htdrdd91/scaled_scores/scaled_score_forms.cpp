@@ -12,7 +12,7 @@ constexpr TextView kFileType = u"ScaledScore";
 
 bool SameKey(TextView a, TextView b) noexcept { return SameText(a, b); }
 
-/// In exchange files what rounds to 0 is false.
+/// In exchange files a number that rounds to 0 is false.
 bool IsTrue(TextView value, Where at) { return Rounded<std::int32_t>(LeadingNumber(value, at), at) != 0; }
 
 } // namespace
@@ -36,7 +36,7 @@ bool clsHTDRDDScaledScore::FromString(TextView sScaledScore, TextView sDelimiter
     bool result = false;
     try {
         ScaledScorePairs<SameKey> pairs{Ref(this)};
-        const Text text(sScaledScore); // both may be members that change now
+        const Text text(sScaledScore); // both may refer to members that change now
         const Text delimiter(sDelimiter);
         Clear();
         EachPiece(text, delimiter, [&](TextView piece) {

@@ -1,4 +1,4 @@
-/// The members of scaled scores and of their connection settings, each once.
+/// The lists of the members of scaled scores and of their connection settings.
 #pragma once
 
 #include "htdrdd91/base/class_members.h"

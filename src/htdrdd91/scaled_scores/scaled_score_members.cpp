@@ -15,7 +15,7 @@ void DecipherProperty(Property& property, bool bUnicode) {
 } // namespace
 
 void DecipherConnection(const clsHTDRDDScaledScore& score, bool bUnicode) {
-    const Ref<clsHTDRDDScaledScoreDB> DB = score.DB; // held, since a report may make the host replace it
+    const Ref<clsHTDRDDScaledScoreDB> DB = score.DB; // held: a report may release it
     DecipherProperty(DB->Connect, bUnicode);
     DecipherProperty(DB->User, bUnicode);
     DecipherProperty(DB->Password, bUnicode);

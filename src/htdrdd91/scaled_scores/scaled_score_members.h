@@ -1,4 +1,4 @@
-/// The members of a scaled score as they stand in files.
+/// The members of a scaled score, as files hold them.
 #pragma once
 
 #include "htdrdd91/foundation/basPublicCipher.h"
@@ -12,13 +12,13 @@
 
 namespace htdrdd {
 
-/// A row of the three forms in which scaled scores are written: the section of definition files and the
-/// string form go by the key, exchange files by the attribute.
+/// A row of the three written forms of a scaled score. The section of definition files and the string form
+/// use the key, exchange files the attribute.
 struct ScaledScoreRow : MemberRow<clsHTDRDDScaledScore> {
     enum class Form {
         Plain,
         Flag,
-        Enciphered, ///< written so; put takes it as it stands
+        Enciphered, ///< written enciphered; put stores the value unchanged
         Mark,       ///< of no member: whether enciphered texts are in hexadecimal form
     };
     TextView attribute;
@@ -97,17 +97,17 @@ static_assert(kScaledScoreMembers.size() ==
                   kMemberCount<clsHTDRDDScaledScore> + kMemberCount<clsHTDRDDScaledScoreDB> - 1,
               "Each member has a row, but for DB and DB->Valid, and the mark has one.");
 
-/// Deciphers Connect, User and Password, in that order, where they aren't empty. A text that isn't enciphered
+/// Deciphers Connect, User and Password, in that order, unless they are empty. A text that isn't enciphered
 /// is reported and becomes empty. Fails with 91 without a DB.
 void DecipherConnection(const clsHTDRDDScaledScore& score, bool bUnicode);
 
-/// Fills a record from keys and values as definition files and the string form have them. The record is held:
-/// a report may make the host replace it.
+/// Fills a record from the keys and values of a definition file or the string form. Holds the record, since a
+/// report may release it.
 template <bool (*Same)(TextView, TextView) noexcept = SameInUpperCase>
 class ScaledScorePairs {
 public:
     explicit ScaledScorePairs(Ref<clsHTDRDDScaledScore> score) : score_(std::move(score)) {}
-    /// False for a key of something else.
+    /// Returns false if the key doesn't belong to a scaled score.
     bool Take(TextView key, TextView value, Where at = Where::current()) {
         const ScaledScoreRow* const row = finder_.Find(key);
         if (row == nullptr) return false;
@@ -117,7 +117,7 @@ public:
             row->put(*score_, value, at);
         return true;
     }
-    /// Deciphers what was taken enciphered; to be called at the end.
+    /// Deciphers the enciphered values. Call it after the last pair.
     void Decipher() const { DecipherConnection(*score_, unicode_); }
 
 private:

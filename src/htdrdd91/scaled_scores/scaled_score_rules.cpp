@@ -100,13 +100,13 @@ void WalkScaledScoreRules(const clsHTDRDDScaledScore& oScaledScore, const Varian
     if (score.DB->ScoreField.empty() && ends(NoScoreField)) return;
     result = hasPrimaryFields();
     if (!result && ends(NoPrimaryFields)) return;
-    // This is meant: a search that fails leaves what the rule above has found.
+    // This is meant: if the search fails, the result of the rule above stays.
     if (score.ScaledScoreCriteriaPrimary == HTDScaledScoreCriteriaLearningObjective) {
         const Text name = score.LearningObjectivePrimary;
         result = HasSubtest(oRDD, name);
         if (!result && ends(UnknownPrimaryObjective, {}, name)) return;
     }
-    // This is meant: it is the primary fields once more; the secondary ones may be empty.
+    // This is meant: this checks the primary fields once more; the secondary fields may be empty.
     if (primaryIsDefined() && !hasPrimaryFields()) {
         result = false;
         if (ends(NoSecondaryFields)) return;

@@ -6,8 +6,8 @@
 
 namespace htdrdd {
 
-/// Walks the rules that IsValid holds a scaled score to and hands out what is broken, as long as the sink
-/// wants more. Fails to the caller. `result` is what IsValid gives back if the walk comes no further.
+/// Walks the rules of IsValid over a scaled score and passes each finding to the sink until the sink ends the
+/// walk. A failure passes to the caller. `result` is then the result of IsValid if the walk ends there.
 void WalkScaledScoreRules(const clsHTDRDDScaledScore& oScaledScore, const Variant& oRDD,
                           bool bForLearningObjective, bool& result, const FindingSink& found);
 

@@ -96,7 +96,7 @@ constexpr std::array<Rule, KeyRuleCount> kKeyRules{{
 }};
 static_assert(InOrder(kKeyRules), "each rule stands at the place of its enumerator");
 
-/// How many of the first `lNumber` pieces between commas there are, and whether one of these is empty.
+/// The number of pieces between commas, at most `lNumber`, and whether any of them is empty.
 struct PartialPoints {
     std::int32_t lFound = 0;
     bool anyEmpty = false;
@@ -113,13 +113,13 @@ PartialPoints PointsOf(TextView text, std::int32_t lNumber) {
     return points;
 }
 
-/// How many questions are in a learning objective, and whether that can be told of all of them.
+/// How many questions are in a learning objective, and whether all memberships are known.
 struct Members {
     std::int32_t lAll = 0;
     std::int32_t lExtraCredit = 0;
     bool isKnown = true;
 };
-/// By position from 1; for all learning objectives in one walk over the questions.
+/// By position from 1, for all learning objectives in one walk over the questions.
 std::vector<Members> MembersOfObjectives(const clsHTDRDD& oRDD) {
     std::vector<Members> members(static_cast<std::size_t>(oRDD.Subtests->Count()) + 1);
     if (members.size() <= 2) return members;
@@ -165,7 +165,7 @@ void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
         if (question->IncludeGrade) {
             const std::int32_t answers = question->CorrectAnswers->Count();
             if (answers != keys && flagged(NumberOfCorrectAnswers)) return;
-            const std::int32_t there = std::min(keys, answers); // those that are missing have been told
+            const std::int32_t there = std::min(keys, answers); // missing answers are already reported
             for (std::int32_t key = 1; key <= there; ++key) {
                 if (question->CorrectAnswers->Item(key).empty() && flagged(NoCorrectAnswer, key)) return;
                 if (!question->PartialCredit) continue;
@@ -187,7 +187,7 @@ void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found) {
             if (question->IDField && flagged(SubjectiveAndIdentifier)) return;
             if (question->PartialCredit && flagged(SubjectiveWithPartialCredit)) return;
         }
-        if (fits && question->Subtests->Includes(1)) ++overall; // without learning objectives a failure
+        if (fits && question->Subtests->Includes(1)) ++overall; // fails if there are no learning objectives
     }
 
     if (overall < questions->Count() && ends(NotAllInOverall)) return;

@@ -6,8 +6,9 @@
 
 namespace htdrdd {
 
-/// Walks the rules that ValidateKey holds a definition to and hands out what is broken, as long as the sink
-/// wants more. Behind a broken rule, those that build on it may find more of the same. Fails to the caller.
+/// Walks the rules of ValidateKey over a definition and passes each finding to the sink until the sink ends
+/// the walk. After a broken rule, rules that build on it may repeat the finding. A failure passes to the
+/// caller.
 void WalkKeyRules(const clsHTDRDD& oRDD, const FindingSink& found);
 
 } // namespace htdrdd

@@ -15,16 +15,16 @@ enum SubtestRule : std::size_t { NoQuestionCounts, SubtestRuleCount };
 constexpr std::array<Rule, SubtestRuleCount> kSubtestRules{{{NoQuestionCounts}}};
 static_assert(InOrder(kSubtestRules), "each rule stands at the place of its enumerator");
 
-/// What a walk over questions meets first of a learning objective: a member, or a question of which it can't
-/// be told, since it has no such membership.
+/// The first result of a walk over the questions for a learning objective: a member, or a question that lacks
+/// this membership, so the result is unknown.
 enum class Membership : std::uint8_t { None, Member, Unknown };
 
-/// By position from 1; for all learning objectives in one walk over the questions that count.
+/// By position from 1, for all learning objectives in one walk over the questions that count.
 template <class Counts>
 std::vector<Membership> FirstMemberships(const clsHTDRDD& oRDD, Counts counts) {
     std::vector<Membership> first(static_cast<std::size_t>(oRDD.Subtests->Count()) + 1);
-    std::size_t open = first.size() - 1; // how many have met nothing yet
-    std::size_t end = first.size();      // none of those from here on
+    std::size_t open = first.size() - 1; // number of learning objectives without a result
+    std::size_t end = first.size();      // they are all before this position
     const auto meet = [&](std::size_t objective, Membership what) {
         if (first[objective] != Membership::None) return;
         first[objective] = what;
@@ -72,7 +72,7 @@ bool clsHTDRDD::ValidateSubtests(std::int32_t* lInvalidSubtest) const noexcept {
         if (finding) WriteOffender(lInvalidSubtest, finding->offender.lSubtest);
         result = !finding;
     } catch (...) {
-        ReportFailure(u"frmGradeWizard.ValidateSubtests"); // hosts know it by this name
+        ReportFailure(u"frmGradeWizard.ValidateSubtests"); // hosts rely on this location
     }
     return result;
 }

@@ -6,8 +6,8 @@
 
 namespace htdrdd {
 
-/// Hands out the learning objectives to which ValidateSubtests objects, as long as the sink wants more. The
-/// library has no words for that. Fails to the caller.
+/// Passes the learning objectives that ValidateSubtests rejects to the sink until the sink ends the walk. The
+/// library has no message for this rule. A failure passes to the caller.
 void WalkSubtestRules(const clsHTDRDD& oRDD, const FindingSink& found);
 
 } // namespace htdrdd

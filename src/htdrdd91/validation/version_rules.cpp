@@ -71,8 +71,8 @@ constexpr std::array<Rule, VersionRuleCount> kVersionRules{{
 }};
 static_assert(InOrder(kVersionRules), "each rule stands at the place of its enumerator");
 
-/// The response choices of the questions. Equal lists are known by the first of them, so that comparing two
-/// questions again and again costs no look at the texts.
+/// The response choices of the questions. Equal lists are represented by the first of them, so that repeated
+/// comparisons of two questions don't compare texts.
 class ResponseChoices {
 public:
     explicit ResponseChoices(const clsHTDRDDQuestions& questions) : lists_(Slot(questions.Count()) + 1) {
@@ -80,7 +80,7 @@ public:
             if (const auto question = questions.Item(l); question && question->AnswerValues)
                 lists_[Slot(l)] = *distinct_.insert(question->AnswerValues.Get()).first;
     }
-    /// Fails with 91 for a position that has none.
+    /// Fails with 91 if the position has no response choices.
     [[nodiscard]] const clsHTDRDDStrings& Of(std::int32_t position, Where at = Where::current()) const {
         const bool isThere = position > 0 && Slot(position) < lists_.size();
         if (!isThere || lists_[Slot(position)] == nullptr) throw Failure(Err::NotSet, at);
@@ -107,7 +107,7 @@ private:
     std::unordered_set<const List*, Hash, Equal> distinct_;
 };
 
-/// Whether all of `other` are among the choices, and as many. Case counts.
+/// Whether `other` has only texts of `choices`, and as many. Case-sensitive.
 bool SameChoices(const clsHTDRDDStrings& choices, const clsHTDRDDStrings& other) {
     if (&choices == &other) return true;
     if (choices.Count() != other.Count()) return false;
@@ -115,15 +115,15 @@ bool SameChoices(const clsHTDRDDStrings& choices, const clsHTDRDDStrings& other)
     return std::all_of(other.begin(), other.end(), [&](TextView text) { return known.contains(text); });
 }
 
-/// "(A,C)": all of these answers or any of them, as CorrectAnd says.
+/// "(A,C)": several answers, of which CorrectAnd demands all or any.
 bool IsMultiple(TextView answer) {
     return answer.starts_with(u'(') && answer.ends_with(u')') && answer.find(u',') != TextView::npos;
 }
 
-/// What a walk over one part of the rules gives back: whether the sink has enough.
+/// The result of a walk over one part of the rules: true if the sink ends the walk.
 using Enough = bool;
 
-/// The identifiers of the versions, however these are graded. `position` is the version that was reached.
+/// The rules of version identifiers, for every version type. `position` is the last version reached.
 Enough WalkIdentifiers(const clsHTDRDDStrings& answers, std::int32_t& position, const FindingsOf& ends) {
     if (answers.Count() <= 1) return false;
     std::unordered_map<Text, std::int32_t> versionOf;
@@ -148,7 +148,7 @@ Enough WalkScrambled(const clsHTDRDD& oRDD, std::int32_t position, const Finding
     const auto sequences = oRDD.Versions->Sequences;
     if (questions->NumGraded() < 2 && ends(TooFewGraded)) return true;
 
-    // This is meant: the walk starts behind the position that the version identifiers have reached.
+    // This is meant: the walk starts after the position that the version identifiers reached.
     const ResponseChoices choices(*questions);
     while ((position = questions->NextGraded(position)) > 0) {
         const auto& own = choices.Of(position);
@@ -157,7 +157,7 @@ Enough WalkScrambled(const clsHTDRDD& oRDD, std::int32_t position, const Finding
             if (SameChoices(own, other)) continue;
             if (ends(DisparateChoices, {.lQuestion = position}, questions->Item(position)->QuestionName))
                 return true;
-            break; // it is the same finding for each sequence
+            break; // the finding is the same for each sequence
         }
     }
     for (std::int32_t sequence = 1; sequence <= sequences->Count(); ++sequence)
@@ -208,8 +208,8 @@ Enough WalkStandard(const clsHTDRDD& oRDD, const FindingsOf& ends) {
     return false;
 }
 
-/// A value as a type, compared as a number. What stands for no type, such as 1.5 or null, becomes a value
-/// that is none of them.
+/// Converts a value to a version type, compared as a number. A value that is no type, such as 1.5 or null,
+/// becomes a value that is none of the enumerators.
 HTDVersionType TypeOf(const Variant& value, Where at = Where::current()) {
     constexpr auto kNoType = static_cast<HTDVersionType>(-1);
     if (value.Is() == Variant::Kind::Null) return kNoType;

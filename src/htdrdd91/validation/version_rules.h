@@ -6,9 +6,9 @@
 
 namespace htdrdd {
 
-/// Walks the rules that ValidateVersions holds a definition to and hands out what is broken, as long as the
-/// sink wants more. With a type that is none of the enumerators only the version identifiers are looked at.
-/// Fails to the caller.
+/// Walks the rules of ValidateVersions over a definition and passes each finding to the sink until the sink
+/// ends the walk. If the type is none of the enumerators, only the version identifiers are checked. A failure
+/// passes to the caller.
 void WalkVersionRules(const clsHTDRDD& oRDD, HTDVersionType eVersionType, const FindingSink& found);
 
 } // namespace htdrdd

@@ -10,7 +10,7 @@
 namespace htdrdd {
 namespace {
 
-/// Returns the object that `find` finds or makes by one of its interfaces.
+/// Returns the object that `find` finds or creates, by one of its interfaces.
 template <class Find>
 HRESULT QueryMade(REFIID riid, void** result, const Find& find) noexcept {
     if (result == nullptr) return E_POINTER;
@@ -38,7 +38,7 @@ HRESULT CreateObject(const ClassRow& row, REFIID riid, void** result) noexcept {
 HRESULT GlobalObject(const ClassRow& row, REFIID riid, void** result) noexcept {
     return QueryMade(riid, result, [&] {
         if (auto object = FindGlobal(row)) return object;
-        auto made = row.make(); // its failures may call the host, which may come back here
+        auto made = row.make(); // a failure may call the host, which may call this function again
         if (auto object = FindGlobal(row)) return object;
         ThisThread().globals.push_back(made);
         return made;
@@ -52,7 +52,7 @@ void DropIdleGlobalObjects() noexcept {
             object->AddRef();
             return object->Release() > 1;
         });
-        const std::vector<Ref<Object>> ended(firstIdle, globals.end()); // their ends may call hosts
+        const std::vector<Ref<Object>> ended(firstIdle, globals.end()); // their destructors may call hosts
         globals.erase(firstIdle, globals.end());
     });
 }

@@ -1,20 +1,19 @@
-/// Objects for outside hosts: new ones, and those that are used without creating one.
+/// Objects for outside hosts: new ones, and global ones, which hosts use without creating them.
 #pragma once
 
 #include "htdrdd91/component/faces/classes.h"
 
 namespace htdrdd {
 
-/// Makes an object of a class and returns it by one of its interfaces. E_NOINTERFACE if it doesn't have that
-/// one.
+/// Creates an object of a class and returns it by one of its interfaces. E_NOINTERFACE if it doesn't have
+/// that interface.
 HRESULT CreateObject(const ClassRow& row, REFIID riid, void** result) noexcept;
 
-/// The object of a class that this thread uses without creating one. It is made on first use and lasts as
-/// long as the thread, or until the component is asked whether it can be unloaded and nothing else refers to
-/// it.
+/// The global object of a class on this thread. It is created on first use and lives as long as the thread,
+/// or until DllCanUnloadNow is called while nothing else refers to it.
 HRESULT GlobalObject(const ClassRow& row, REFIID riid, void** result) noexcept;
 
-/// Releases the objects that this thread uses without creating them, if nothing else refers to them.
+/// Releases the global objects of this thread, if nothing else refers to them.
 void DropIdleGlobalObjects() noexcept;
 
 } // namespace htdrdd

@@ -1,4 +1,4 @@
-/// What the component exports, beside the functions for texts, arrays, values and failures.
+/// The exported functions of the component, except those for texts, arrays, values and failures.
 #include "htdrdd91/component/entry/exports.h"
 
 #include "htdrdd91/component/entry/class_factory.h"

@@ -1,4 +1,4 @@
-/// Arguments and results between the slots of interfaces and the members of classes.
+/// Conversion of arguments and results between the slots of interfaces and the members of classes.
 #pragma once
 
 #include "htdrdd91/base/collection.h"
@@ -18,8 +18,8 @@ namespace htdrdd {
 template <class T>
 concept Number = std::is_arithmetic_v<T> || std::is_enum_v<T>;
 
-/// The object of a class that an outside one stands for, or with LateBound any that can be called by name.
-/// Fails with 13 for an object of another class.
+/// The object of class T that an outside object stands for; with LateBound, any object that can be called by
+/// name. Fails with 13 for an object of another class.
 template <class T>
 [[nodiscard]] Ref<T> Referred(IUnknown* outside) {
     if (outside == nullptr) return {};
@@ -38,8 +38,8 @@ template <class T>
 template <class... T>
 inline constexpr bool kIsKnown = false;
 
-/// An argument that a slot takes as an A and a member as a P. `Value` is what the member gets, and `Return`
-/// brings back what it wrote, if it goes by reference.
+/// Converts an argument from A, its type in a slot, to P, its type in a member. The member gets `Value`;
+/// `Return` copies its changes back for an argument by reference.
 template <class P, class A>
 class Argument {
     static_assert(
@@ -59,7 +59,7 @@ public:
     void Return() const noexcept {}
 };
 
-/// Numbers go through as they are, a boolean as any number but 0.
+/// Numbers are passed unchanged; as a boolean, any number except 0 is true.
 template <Number P, Number A>
 class Argument<P, A> : public ReadArgument {
 public:
@@ -75,7 +75,7 @@ private:
     A value_;
 };
 
-/// Variables that both sides see alike; null if they were left out.
+/// Variables with the same layout on both sides; null if omitted.
 template <Number T, Number A>
 requires(sizeof(T) == sizeof(A)) class Argument<T*, A*> : public ReadArgument {
 public:
@@ -106,7 +106,7 @@ public:
 private:
     TextView text_;
 };
-/// A text by reference, which may change during the call.
+/// A text by reference, copied because the variable may change during the call.
 template <>
 class Argument<TextView, BSTR*> : public ReadArgument {
 public:
@@ -116,7 +116,7 @@ public:
 private:
     Text text_;
 };
-/// One that the member changes, at once.
+/// A text by reference that the member changes, at once.
 template <>
 class Argument<TextPlace, BSTR*> : public ReadArgument {
 public:
@@ -135,7 +135,7 @@ private:
     Text none_;
 };
 
-/// Values of any kind, also as the index or the key of an entry.
+/// Values of any kind, also for the index or the key of an entry.
 template <class P, class A>
 requires((std::same_as<A, VARIANT> || std::same_as<A, VARIANT*>)&&(
     std::same_as<std::remove_cvref_t<P>, Variant> || std::same_as<std::remove_cvref_t<P>, Index> ||
@@ -159,7 +159,7 @@ private:
     Variant value_;
 };
 
-/// Results in variables of any kind.
+/// Variables of any kind that get a result.
 template <class T>
 class Argument<T*, VARIANT*> {
 public:
@@ -173,7 +173,7 @@ public:
     void Return() {
         if (variable_ == nullptr) return;
         if constexpr (std::same_as<T, Variant>)
-            if (value_.Is() == before_) return; // members only fill in what was left out
+            if (value_.Is() == before_) return; // members assign only omitted values
         if ((variable_->vt & VT_BYREF) != 0) return AssignTo(*variable_, Variant(value_));
         OwnVariant made{Variant(value_)};
         std::swap(*variable_, made.Get());
@@ -222,7 +222,7 @@ public:
         SAFEARRAY* made = ArrayOut(value_);
         std::swap(*variable_, made);
         if (SUCCEEDED(SafeArrayDestroy(made))) return;
-        std::swap(*variable_, made); // somebody works on the old one
+        std::swap(*variable_, made); // the old array is locked
         SafeArrayDestroy(made);
         throw Failure(Err::PermissionDenied);
     }
@@ -267,7 +267,7 @@ void SetResult(A& to, const R& result) {
     }
 }
 
-/// The parameters of a member function, of which the last may tell the caller's line.
+/// The parameters of a member function; the last may be the caller's line.
 template <class F>
 struct ParametersOf;
 template <class C, class R, class... P>
@@ -288,7 +288,7 @@ struct ParametersOf<R (C::*)(P...) noexcept> : ParametersOf<R (C::*)(P...)> {};
 template <class C, class R, class... P>
 struct ParametersOf<R (C::*)(P...) const noexcept> : ParametersOf<R (C::*)(P...)> {};
 
-/// The one of two overloads that reads a property with an argument, and the one that assigns it.
+/// Getter selects the overload that reads a property with an argument, Setter the one that assigns it.
 template <class C, class R, class P>
 consteval auto Getter(R (C::*read)(P)) {
     return read;
@@ -314,7 +314,7 @@ consteval auto Setter(void (C::*assign)(P, V, Where)) {
     return assign;
 }
 
-/// Calls a member function with a slot's arguments, and then `take` with what it returns, if anything.
+/// Calls a member function with a slot's arguments, and then `take` with the result, if there is one.
 template <auto Function, class Class, class Take, class... A>
 void CallMember(Class& object, const Take& take, A... values) {
     using Parameters = ParametersOf<decltype(Function)>;
@@ -334,7 +334,7 @@ void CallMember(Class& object, const Take& take, A... values) {
         } else {
             auto&& result = call();
             (std::get<N>(arguments).Return(), ...);
-            take(result); // the last thing: a call that fails has no result
+            take(result); // last, since a failed call has no result
         }
     }
     (std::index_sequence_for<A...>());

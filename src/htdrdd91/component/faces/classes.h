@@ -12,7 +12,7 @@
 
 namespace htdrdd {
 
-/// A face, whatever its class.
+/// The face of an object of any class.
 class ObjectFace : public OutsideFace {
 public:
     [[nodiscard]] virtual IDispatch& Dispatch() noexcept = 0;
@@ -22,11 +22,11 @@ public:
 struct ClassRow {
     TextView name;
     const IID* defaultInterface;
-    const CLSID* identifier = nullptr; ///< null if it is only reached through members of others
-    const IID* events = nullptr;       ///< null if it raises none
+    const CLSID* identifier = nullptr; ///< null for classes that are only reached through members of others
+    const IID* events = nullptr;       ///< null for classes without events
     Event& (*event)(Object& object) = nullptr;
     bool isCreatable = false;
-    bool isGlobal = false; ///< can be used without creating one
+    bool isGlobal = false; ///< hosts use it without creating an object
     Ref<Object> (*make)();
     std::unique_ptr<ObjectFace> (*face)(Object& object, const ClassRow& row);
     std::span<const Member> members;
@@ -35,7 +35,7 @@ struct ClassRow {
 /// All classes, in the order of the interface list.
 [[nodiscard]] std::span<const ClassRow> Classes() noexcept;
 
-/// The class of a name, with or without the library's in front and in any case; null if there is none.
+/// The class with a name, in any case, with or without the library's name before it; null if there is none.
 [[nodiscard]] const ClassRow* FindClass(TextView name) noexcept;
 
 /// The version of the type library in the interface list, such as "17.1".

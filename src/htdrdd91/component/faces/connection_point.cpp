@@ -35,7 +35,7 @@ HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer**
 HRESULT ConnectionPoint::Advise(IUnknown* pUnkSink, DWORD* pdwCookie) noexcept {
     if (pUnkSink == nullptr || pdwCookie == nullptr) return E_POINTER;
     *pdwCookie = 0;
-    const auto self = Held(object_); // the sink may release it when it is asked what it is
+    const auto self = Held(object_); // the sink may release it when queried
     auto sink = Com<IDispatch>::Of(pUnkSink, events_);
     if (!sink) sink = Com<IDispatch>::Of(pUnkSink);
     if (!sink) return CONNECT_E_CANNOTCONNECT;

@@ -8,8 +8,8 @@
 
 namespace htdrdd {
 
-/// Where the sinks of an object's one event connect. It is a part of the object's face. A sink is called
-/// synchronously, with member 1 of the event interface; what it fails with is dropped. Sinks stay connected
+/// The connection point for sinks of an object's only event. It is a part of the object's face. A sink is
+/// called synchronously, with member 1 of the event interface; its failure is dropped. Sinks stay connected
 /// until they are disconnected or the object ends.
 class ConnectionPoint final : public IConnectionPoint {
 public:

@@ -9,8 +9,8 @@ namespace {
 
 bool IsPut(WORD flags) noexcept { return (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0; }
 
-/// A property may be called as a method, since many hosts can't tell, and assigned in either way. A plain
-/// property read must not run a method.
+/// A property may be called as a method, since many hosts can't distinguish them, and assigned by put or
+/// putref. A plain property read must not run a method.
 const Member* FindMember(std::span<const Member> members, DISPID id, WORD flags) noexcept {
     const auto found = std::find_if(members.begin(), members.end(), [&](const Member& member) {
         const bool isRead = flags == DISPATCH_PROPERTYGET && member.kind == DISPATCH_METHOD;
@@ -23,8 +23,7 @@ bool IsLeftOut(const VARIANTARG& value) noexcept {
     return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
 }
 
-/// Sorts the arguments of a call by parameter. Named ones stand in front, the others from the last to the
-/// first behind them.
+/// Sorts the arguments of a call by parameter. Named arguments come first, then the others in reverse order.
 HRESULT Arrange(const Member& member, const DISPPARAMS& passed, CallArguments& arguments) noexcept {
     const std::size_t count = member.parameters.size();
     if (passed.cArgs > count || passed.cNamedArgs > passed.cArgs) return DISP_E_BADPARAMCOUNT;
@@ -50,8 +49,8 @@ HRESULT Arrange(const Member& member, const DISPPARAMS& passed, CallArguments& a
     return S_OK;
 }
 
-/// Whether a call is meant for the default member of the object in a property: `list(1)` where list is a
-/// property without parameters, and `list(1) = value`.
+/// Whether a call addresses the default member of the object in a property: `list(1)` and `list(1) = value`,
+/// if list is a property without parameters.
 bool IsOfDefault(std::span<const Member> members, DISPID id, WORD flags, UINT count) noexcept {
     if (count <= (IsPut(flags) ? 1U : 0U)) return false;
     const Member* const property = FindMember(members, id, DISPATCH_PROPERTYGET);
@@ -119,7 +118,7 @@ HRESULT FindNames(std::span<const Member> members, LPOLESTR* names, UINT count, 
             else
                 result = DISP_E_UNKNOWNNAME;
         }
-        if (SUCCEEDED(result)) break; // else the property's other direction may know the names
+        if (SUCCEEDED(result)) break; // else the other direction of the property may have the names
     }
     return result;
 }

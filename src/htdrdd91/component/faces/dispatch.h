@@ -1,4 +1,4 @@
-/// Members by name: from the arguments of a late-bound call to the slot of a member.
+/// Calls by name: from the arguments of a late-bound call to the slot of a member.
 #pragma once
 
 #include "htdrdd91/component/values/values.h"
@@ -14,55 +14,55 @@
 
 namespace htdrdd {
 
-/// One parameter of a member, or the value that a property is assigned.
+/// A parameter of a member, or the value assigned to a property.
 struct Parameter {
     enum class Presence { Required, Optional, Default };
     TextView name;
-    VARTYPE type; ///< its kind, also if it goes by reference
+    VARTYPE type; ///< its kind, without VT_BYREF
     Presence presence = Presence::Required;
-    std::int32_t number = 0; ///< default of numbers and values,
-    TextView text = {};      ///< and of texts
+    std::int32_t number = 0; ///< default of a number or a value
+    TextView text = {};      ///< default of a text
 };
 
 /// The arguments of one call, by parameter.
 struct CallArguments {
     static constexpr std::size_t kMost = 8;
-    std::array<const VARIANTARG*, kMost> values{}; ///< null for one that was left out
-    std::size_t refused = kMost;                   ///< position of the one that didn't fit its parameter
+    std::array<const VARIANTARG*, kMost> values{}; ///< null for an omitted argument
+    std::size_t refused = kMost;                   ///< position of the argument that didn't fit its parameter
 };
 
 /// One member: a method, or one direction of a property.
 struct Member {
     DISPID id;
     TextView name;
-    WORD kind;      ///< DISPATCH_METHOD and its like
+    WORD kind;      ///< DISPATCH_METHOD, DISPATCH_PROPERTYGET, ...
     VARTYPE result; ///< VT_EMPTY if there is none
     HRESULT (*thunk)(IDispatch& face, const Member& member, CallArguments& arguments, VARIANT& result);
     std::initializer_list<Parameter> parameters;
 };
 
-/// Finds the identifier of a member, and those of its parameters, which are their positions.
+/// Finds the identifiers of a member and of its parameters; that of a parameter is its position.
 HRESULT FindNames(std::span<const Member> members, LPOLESTR* names, UINT count, DISPID* ids) noexcept;
 
 /// Calls a member of a face.
 HRESULT InvokeMember(std::span<const Member> members, IDispatch& face, DISPID id, WORD flags,
                      DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception, UINT* refused) noexcept;
 
-/// One argument on its way to a slot.
+/// An argument of a call by name, to be converted for a slot.
 struct CallArgument {
-    const VARIANTARG* value; ///< null if it was left out
+    const VARIANTARG* value; ///< null if it was omitted
     const Parameter& parameter;
     std::size_t position;
     std::size_t& refused; ///< set to the position if the value doesn't fit the parameter
 
-    /// The value of an argument that was left out.
+    /// The value of an omitted argument.
     [[nodiscard]] Variant Default() const;
-    /// The value in the kind of the parameter.
+    /// Converts the value to the kind of the parameter.
     void ConvertTo(VARIANT& to) const;
 };
 
-/// An argument as a slot takes it: Pass is its value, and Return brings back what the slot wrote, if it goes
-/// by reference. The primary template is for numbers and enumerations.
+/// An argument in the form that a slot takes. Pass returns it; Return copies the slot's changes back for an
+/// argument by reference. The primary template is for numbers and enumerations.
 template <class A>
 class SlotArgument {
     static_assert(
@@ -82,7 +82,7 @@ private:
     A value_{};
 };
 
-/// Texts: the caller's own if it can't change during the call.
+/// Texts: the caller's own, unless it may change during the call.
 template <>
 class SlotArgument<BSTR> {
 public:
@@ -122,7 +122,7 @@ private:
     VARIANT value_{};
 };
 
-/// Objects. One that isn't the library's own is only queried for its interfaces.
+/// Objects. An object that isn't the library's own is only queried for its interfaces.
 template <std::derived_from<IUnknown> I>
 class SlotArgument<I*> {
 public:
@@ -134,8 +134,9 @@ private:
     OwnVariant own_;
 };
 
-/// Arguments by reference. The slot gets the caller's variable if that has the kind of the parameter; else
-/// one of its own, which is assigned to the caller's variable after the call, if there is one.
+/// Arguments by reference. The slot gets the caller's variable if that has the kind of the parameter;
+/// otherwise a variable of this class, which is assigned to the caller's variable, if there is one, after the
+/// call.
 template <class A>
 requires(!std::derived_from<A, IUnknown> && !std::same_as<A, OLECHAR>) class SlotArgument<A*> {
 public:
@@ -151,7 +152,7 @@ public:
                 passed_ = static_cast<A*>(static_cast<void*>(&argument.value->pvarVal->llVal));
             if (passed_ != nullptr) return;
         }
-        argument.ConvertTo(own_.Get()); // a value of any kind stays what it is
+        argument.ConvertTo(own_.Get()); // a value of any kind stays unchanged
         before_ = own_.Get();
         if constexpr (isValue)
             passed_ = &own_.Get();
@@ -173,7 +174,7 @@ private:
     A* passed_ = nullptr;
 };
 
-/// The thunk of a member: it calls the slot with the arguments of a call by name.
+/// The thunk of a member calls its slot with the arguments of a call by name.
 template <auto Slot, bool HasResult>
 struct Thunk;
 

@@ -1,4 +1,4 @@
-/// Enumerators over what was there when they were asked for.
+/// Enumerators. Each enumerates a copy of the items that existed when it was created.
 #pragma once
 
 #include "htdrdd91/base/dictionary.h"
@@ -13,7 +13,7 @@
 
 namespace htdrdd {
 
-/// The items of a list, as an enumerator gives them.
+/// The items of a list, as its enumerator returns them.
 template <class List>
 [[nodiscard]] std::vector<Variant> ItemsOf(const List& list) {
     std::vector<Variant> items;
@@ -30,7 +30,7 @@ struct Connection {
     DWORD cookie;
 };
 
-/// What an enumerator gives for an item.
+/// Converts an item to the form that Next returns.
 inline void ItemOut(VARIANT& to, const Variant& item) { ValueOut(to, item); }
 inline void ItemOut(IConnectionPoint*& to, const Com<IConnectionPoint>& item) {
     to = Com<IConnectionPoint>(item).Detach();
@@ -80,11 +80,11 @@ private:
     [[no_unique_address]] ModuleReference moduleReference_;
 };
 
-/// What the interface's Next gives of an item.
+/// The type of an item that the interface's Next returns.
 template <class Interface, class Out>
 Out OutOfNext(HRESULT (Interface::*)(ULONG, Out*, ULONG*));
 
-/// A new enumerator over what `items` gives.
+/// Creates an enumerator over the result of `items`.
 template <class Interface, class Result, class Make>
 HRESULT Enumerate(Result** result, const Make& items) noexcept {
     if (result == nullptr) return E_POINTER;

@@ -1,4 +1,4 @@
-/// What outside hosts see of the library's objects.
+/// The faces of the library's objects.
 #pragma once
 
 #include "htdrdd91/component/HTDRdd91.h"
@@ -15,8 +15,8 @@
 
 namespace htdrdd {
 
-/// The face of an object. It lives in the object's slot, and its references are the object's. Members are
-/// called with the object held, so that what they call may release it.
+/// The face of an object. The object owns its face, and references to the face are references to the object.
+/// Members are called with the object held, since the called code may release it.
 template <class Interface, class Class>
 class Face : public Interface,
              public ISupportErrorInfo,
@@ -112,13 +112,13 @@ protected:
                 property = Referred<typename Held::Target>(value);
         });
     }
-    /// Calls a member function with a result,
+    /// Calls a member function with a result.
     template <auto Function, class R, class... A>
     HRESULT CallFor(R* result, A... arguments) noexcept {
         const auto take = [result](const auto& returned) { SetResult(*result, returned); };
         return WithResult(result, [&] { CallMember<Function>(object_, take, arguments...); });
     }
-    /// or one without.
+    /// Calls a member function without a result.
     template <auto Function, class... A>
     HRESULT Call(A... arguments) noexcept {
         return WithObject([&] {
@@ -140,7 +140,7 @@ private:
             body();
         });
     }
-    /// The same for one that sets a result, which is 0 or null if it fails.
+    /// The same for a body that sets a result; the result is 0 or null if the body fails.
     template <class R, class Body>
     HRESULT WithResult(R* result, const Body& body) noexcept {
         if (result == nullptr) return E_POINTER;

@@ -1,4 +1,4 @@
-/// The binary layout of components and the functions for their values: the system's own where it has them.
+/// The binary layout of components and the functions for their values: the system's own, if it has them.
 #pragma once
 
 #ifdef _WIN32

@@ -1,12 +1,12 @@
-/// The binary layout of components: what other systems bring along in their own headers, under the same
-/// names. Every structure has the size and order that 64-bit hosts in any language expect; calls take the
+/// The binary layout of components: declarations that other systems have in their own headers, under the same
+/// names. Every structure has the size and order that 64-bit hosts in any language expect; calls use the
 /// platform's usual convention with the object first.
 #pragma once
 
 #include <cstdint>
 #include <cstring>
 
-// NOLINTBEGIN(modernize-use-using, modernize-avoid-c-arrays, bugprone-reserved-identifier): as C has them
+// NOLINTBEGIN(modernize-use-using, modernize-avoid-c-arrays, bugprone-reserved-identifier): as in C
 
 using BOOL = int;
 using WORD = std::uint16_t;
@@ -28,7 +28,7 @@ using VARIANT_BOOL = std::int16_t;
 using OLECHAR = char16_t;
 using LPOLESTR = OLECHAR*;
 using LPCOLESTR = const OLECHAR*;
-/// Units behind a 32-bit count of their bytes and in front of a 0; null is the empty text.
+/// Units, with a 32-bit count of their bytes before them and a 0 after them; null is the empty text.
 using BSTR = OLECHAR*;
 
 inline constexpr VARIANT_BOOL VARIANT_TRUE = -1;
@@ -128,14 +128,14 @@ inline constexpr USHORT FADF_UNKNOWN = 0x200;
 inline constexpr USHORT FADF_DISPATCH = 0x400;
 inline constexpr USHORT FADF_VARIANT = 0x800;
 
-/// An array. In front of it lies its kind of element as 32 bits.
+/// An array. The 32 bits before it hold the kind of its elements.
 struct tagSAFEARRAY {
     USHORT cDims;
     USHORT fFeatures;
     ULONG cbElements;
     ULONG cLocks;
     void* pvData;
-    SAFEARRAYBOUND rgsabound[1]; ///< one for each dimension, the last one first
+    SAFEARRAYBOUND rgsabound[1]; ///< one for each dimension, the last dimension first
 };
 using SAFEARRAY = tagSAFEARRAY;
 
@@ -183,13 +183,13 @@ struct tagVARIANT {
 };
 
 struct DISPPARAMS {
-    VARIANTARG* rgvarg; ///< the last argument first; named ones in front
+    VARIANTARG* rgvarg; ///< named arguments first, then the others in reverse order
     DISPID* rgdispidNamedArgs;
     UINT cArgs;
     UINT cNamedArgs;
 };
 
-/// What a member failed with.
+/// The failure of a member.
 struct EXCEPINFO {
     WORD wCode;
     WORD wReserved;
@@ -210,7 +210,7 @@ struct CONNECTDATA {
 static_assert(sizeof(void*) == 8 && sizeof(VARIANT) == 24 && sizeof(EXCEPINFO) == 64 &&
               sizeof(SAFEARRAY) == 32);
 
-/// The calling convention of slots, which is the usual one here.
+/// The calling convention of slots, which is the default here.
 #define STDMETHODCALLTYPE
 
 namespace htdrdd {
@@ -347,9 +347,9 @@ inline constexpr GUID kIid<::IEnumConnections>{
 
 extern "C" {
 
-/// Texts. A text without memory is null.
+/// Texts. The result is null if there is no memory.
 BSTR SysAllocString(const OLECHAR* text);
-BSTR SysAllocStringLen(const OLECHAR* text, UINT length); ///< a null text gives units to be filled
+BSTR SysAllocStringLen(const OLECHAR* text, UINT length); ///< a null text leaves the units to be filled in
 void SysFreeString(BSTR text);
 UINT SysStringLen(BSTR text); ///< in units
 
@@ -369,10 +369,10 @@ HRESULT SafeArrayPutElement(SAFEARRAY* psa, LONG* rgIndices, void* pv);
 
 /// Values.
 void VariantInit(VARIANTARG* pvarg);
-HRESULT VariantClear(VARIANTARG* pvarg); ///< what a value only refers to (VT_BYREF) stays
+HRESULT VariantClear(VARIANTARG* pvarg); ///< a variable referred to (VT_BYREF) stays
 HRESULT VariantCopy(VARIANTARG* pvargDest, const VARIANTARG* pvargSrc);
 
-/// What the last member failed with on this thread, when called through its slot. Reading it takes it away.
+/// The failure of the last member called through its slot on this thread. GetErrorInfo also removes it.
 HRESULT GetErrorInfo(ULONG dwReserved, IErrorInfo** pperrinfo);
 HRESULT SetErrorInfo(ULONG dwReserved, IErrorInfo* perrinfo);
 }

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The bytes of a text, in front of its units; 8 bytes are kept for them, so that the units are aligned.
+/// The byte count of a text, stored before its units in a block of 8 bytes, so that the units are aligned.
 using Length = std::uint32_t;
 constexpr std::size_t kFront = 8;
 

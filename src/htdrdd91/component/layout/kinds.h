@@ -7,7 +7,7 @@
 
 namespace htdrdd {
 
-/// Bytes of a value of a kind where it is held, 0 for kinds that the library doesn't know.
+/// The size of a value of a kind, in bytes; 0 for kinds that the library doesn't know.
 constexpr std::size_t SizeOfKind(VARTYPE kind) noexcept {
     if ((kind & VT_ARRAY) != 0) return sizeof(void*);
     switch (kind) {

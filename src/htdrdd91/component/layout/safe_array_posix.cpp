@@ -6,7 +6,7 @@ using htdrdd::SizeOfKind;
 
 namespace {
 
-/// Room in front of an array, for its kind of element; 16 bytes, so that the array is aligned.
+/// Room before an array for its kind of element; 16 bytes, so that the array is aligned.
 constexpr std::size_t kFront = 16;
 
 void* BlockOf(SAFEARRAY* psa) { return static_cast<char*>(static_cast<void*>(psa)) - kFront; }
@@ -43,7 +43,7 @@ std::size_t CountOf(const SAFEARRAY& array) {
     return count;
 }
 
-/// An element as a variant of its kind, and back.
+/// Converts an element to a variant of its kind, and back.
 VARIANT Load(VARTYPE kind, const void* place) {
     VARIANT value{};
     value.vt = kind;
@@ -55,7 +55,7 @@ void Store(VARTYPE kind, void* place, const VARIANT& value) {
                 SizeOfKind(kind));
 }
 
-/// Copies an element over one that is there.
+/// Copies an element over an existing one.
 HRESULT Replace(VARTYPE kind, void* to, const void* from) {
     const VARIANT source = Load(kind, from);
     VARIANT copy{};
@@ -66,8 +66,8 @@ HRESULT Replace(VARTYPE kind, void* to, const void* from) {
     return VariantClear(&before);
 }
 
-/// The place of an element; null where an index is out of its bounds. The first index is that of the first
-/// dimension, whose bounds stand last.
+/// The place of an element; null if an index is out of bounds. The first index is that of the first
+/// dimension, whose bounds are stored last.
 void* PlaceOf(const SAFEARRAY& array, const LONG* indices) {
     std::size_t offset = 0;
     for (USHORT n = 0; n < array.cDims; ++n) {
@@ -194,7 +194,7 @@ HRESULT SafeArrayGetElement(SAFEARRAY* psa, LONG* rgIndices, void* pv) {
     const void* const place = PlaceOf(*psa, rgIndices);
     if (place == nullptr) return DISP_E_BADINDEX;
     const VARTYPE kind = KindOf(*psa);
-    std::memset(pv, 0, psa->cbElements); // a fresh place: nothing there ends
+    std::memset(pv, 0, psa->cbElements); // uninitialized: Replace must not clear it
     return Replace(kind, pv, place);
 }
 
@@ -203,7 +203,7 @@ HRESULT SafeArrayPutElement(SAFEARRAY* psa, LONG* rgIndices, void* pv) {
     void* const place = PlaceOf(*psa, rgIndices);
     if (place == nullptr) return DISP_E_BADINDEX;
     const VARTYPE kind = KindOf(*psa);
-    // Objects and texts come as such, other elements behind a pointer.
+    // Objects and texts are passed directly, other elements by pointer.
     const bool isPointer = kind == VT_BSTR || kind == VT_DISPATCH || kind == VT_UNKNOWN;
     if (!isPointer && pv == nullptr) return E_INVALIDARG;
     return Replace(kind, place, isPointer ? static_cast<const void*>(&pv) : pv);

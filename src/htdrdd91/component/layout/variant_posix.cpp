@@ -10,7 +10,7 @@ HRESULT VariantClear(VARIANTARG* pvarg) {
     if (pvarg == nullptr) return E_INVALIDARG;
     const bool isArray = (pvarg->vt & (VT_ARRAY | VT_BYREF)) == VT_ARRAY;
     if (isArray && pvarg->parray != nullptr && pvarg->parray->cLocks > 0) return DISP_E_ARRAYISLOCKED;
-    const VARIANT value = std::exchange(*pvarg, {}); // what ends may come back to the variable
+    const VARIANT value = std::exchange(*pvarg, {}); // the value's end may access the variable
     if ((value.vt & VT_BYREF) != 0) return S_OK;
     if (isArray) {
         SafeArrayDestroy(value.parray);
@@ -27,7 +27,7 @@ HRESULT VariantCopy(VARIANTARG* pvargDest, const VARIANTARG* pvargSrc) {
     if (pvargDest == pvargSrc) return S_OK;
     VARIANT copy = *pvargSrc;
     if ((copy.vt & VT_BYREF) != 0) {
-        // it refers to the same variable
+        // the copy refers to the same variable
     } else if ((copy.vt & VT_ARRAY) != 0) {
         const HRESULT outcome = SafeArrayCopy(pvargSrc->parray, &copy.parray);
         if (FAILED(outcome)) return outcome;

@@ -1,4 +1,4 @@
-"""Writes what is made of the interface list, to OUT or else to standard output:
+"""Generates a file from the interface list, to OUT or else to standard output:
 
     generate.py header LIST [OUT]   the C++ header of the interfaces
     generate.py faces LIST [OUT]    the C++ of their members
@@ -35,7 +35,7 @@ def slot_name(member):
 
 
 def slot_type(value):
-    """The type that a slot has for a parameter or result."""
+    """The type of a parameter or result in a slot."""
     if value.is_array:
         own = "SAFEARRAY*"
     elif value.is_interface:
@@ -83,7 +83,7 @@ def header(library):
 
 
 class Headers:
-    """The classes of the C++ headers in a folder, as far as they have to agree with the list."""
+    """The classes in the C++ headers of a folder, as far as they must agree with the list."""
 
     CLASS = re.compile(r"^class (\w+)([^;{]*){(.*?)^};", re.DOTALL | re.MULTILINE)
 
@@ -94,7 +94,7 @@ class Headers:
             self.classes.update({name: (bases, body) for name, bases, body in self.CLASS.findall(text)})
 
     def declared(self, name, member):
-        """Parameters of a member function, and whether it reports its failures; None for a data member."""
+        """The parameters of a member function, and whether it reports its failures; None for a data member."""
         bases, body = self.classes.get(name, ("", ""))
         for match in re.finditer(rf"\b{member.name}\(", body):
             depth, end = 1, match.end()
@@ -109,9 +109,11 @@ class Headers:
         return next(filter(None, found), None)
 
     def default(self, name, member, parameter):
-        """The default argument as it stands in the header."""
-        parameters, _ = self.declared(name, member) or ([], True)
-        for one in parameters:
+        """The default argument as written in the header."""
+        declared = self.declared(name, member)
+        if not declared:
+            raise ListError(member.line, f"{name}.h declares no {member.name} with {len(member.parameters)} parameters")
+        for one in declared[0]:
             match = re.search(rf"\b{parameter.name}\s*=\s*(.*)$", one, re.DOTALL)
             if match:
                 return match.group(1).strip()
@@ -119,7 +121,7 @@ class Headers:
 
 
 def checks(library, headers):
-    """That the C++ has the same enumerators and defaults."""
+    """Checks that the C++ has the same enumerators and defaults."""
     for enumeration in library.enumerations:
         for name, value in enumeration.constants.items():
             yield (f'static_assert(static_cast<std::int32_t>({name}) == {value}, '
@@ -154,7 +156,7 @@ def body(member):
         return f"GetProperty<&C::{member.name}>(result)"
     if member.direction not in ("propget", "") and len(names) == 1:
         return f"PutProperty<&C::{member.name}>({names[0]})"
-    # Both directions of a property with arguments have one name.
+    # Both directions of a property with arguments have the same name.
     pointer = {"propget": "Getter({})", "": "{}"}.get(member.direction, "Setter({})").format(f"&C::{member.name}")
     return f"{'CallFor' if result else 'Call'}<{pointer}>({', '.join(result + names)})"
 

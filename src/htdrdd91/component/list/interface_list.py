@@ -1,5 +1,5 @@
-"""Reads the interface list, HTDRdd91.idl: `read(path)` returns a Library. What can't be read, or contradicts itself, is
-a ListError, which tells the line and the reason."""
+"""Reads the interface list, HTDRdd91.idl: `read(path)` returns a Library. An unreadable or inconsistent list raises a
+ListError with the line and the reason."""
 
 import dataclasses
 import re
@@ -8,7 +8,7 @@ NUMBERS = {"long", "short", "double", "VARIANT_BOOL"}
 PLAIN_KINDS = NUMBERS | {"BSTR", "VARIANT"}
 SYSTEM_INTERFACES = {"IUnknown", "IDispatch"}
 DIRECTIONS = ("propget", "propput", "propputref")
-FIRST_SLOT = 7  # behind those of IUnknown and IDispatch
+FIRST_SLOT = 7  # after those of IUnknown and IDispatch
 
 
 class ListError(Exception):
@@ -19,8 +19,8 @@ class ListError(Exception):
 
 @dataclasses.dataclass
 class Parameter:
-    """A parameter, or the result of a member. The kind is a plain one, an enumeration, or an interface; an element's
-    where it is an array."""
+    """A parameter, or the result of a member. The kind is a plain kind, an enumeration or an interface; for an array,
+    the kind of its elements."""
 
     name: str
     kind: str
@@ -66,7 +66,7 @@ class EventInterface:
 
 @dataclasses.dataclass
 class Class:
-    """A class; without an identifier of its own where the list has only its interface."""
+    """A class. It has no identifier if the list contains only its interface."""
 
     name: str
     interface: Interface
@@ -125,7 +125,7 @@ class Reader:
         return self.tokens[self.place][1] == text
 
     def take(self, expected=None, kind=None):
-        """The text of the next token, which has to be the one, or of the kind, that is expected."""
+        """The text of the next token. Fails if the token isn't the expected text or of the expected kind."""
         found_kind, text, line = self.tokens[self.place]
         if expected is not None and text != expected or kind is not None and found_kind != kind:
             raise ListError(line, f"{expected or 'a ' + kind} is expected, not {text}")
@@ -136,7 +136,7 @@ class Reader:
         return bool(self.sees(text) and self.take())
 
     def attributes(self, known):
-        """Names with their values, True where there is none."""
+        """Names with their values; True for a name without a value."""
         found = {}
         self.take("[")
         while not found or self.takes(","):

@@ -1,4 +1,4 @@
-/// References to objects outside, and to their texts.
+/// References to outside objects and their texts.
 #pragma once
 
 #include "htdrdd91/base/failure.h"
@@ -12,7 +12,7 @@
 
 namespace htdrdd {
 
-/// A counted reference to an outside object, perhaps empty.
+/// A counted reference to an outside object; may be empty.
 template <class T>
 class Com {
 public:
@@ -29,13 +29,13 @@ public:
     ~Com() {
         if (object_ != nullptr) object_->Release();
     }
-    /// Takes over a reference that was counted already.
+    /// Adopts a reference that is already counted.
     static Com Adopt(T* object) noexcept {
         Com com;
         com.object_ = object;
         return com;
     }
-    /// The same object by another interface; empty where it has none such.
+    /// The same object by another interface; empty if it doesn't have that interface.
     template <class U>
     static Com Of(U* other, const GUID& iid = kIid<T>) noexcept {
         void* found = nullptr;
@@ -45,7 +45,7 @@ public:
     }
 
     [[nodiscard]] T* Get() const noexcept { return object_; }
-    /// Gives the reference away.
+    /// Hands the reference over to the caller.
     [[nodiscard]] T* Detach() noexcept { return std::exchange(object_, nullptr); }
     T* operator->() const noexcept { return object_; }
     explicit operator bool() const noexcept { return object_ != nullptr; }
@@ -54,7 +54,7 @@ private:
     T* object_ = nullptr;
 };
 
-/// What an object asks for of itself: whether it has an interface. `ppvObject` gets it, counted.
+/// QueryInterface of an object with one interface. `ppvObject` gets the interface, counted, or null.
 template <class Interface>
 HRESULT GiveInterface(Interface* object, REFIID riid, void** ppvObject) noexcept {
     if (ppvObject == nullptr) return E_POINTER;
@@ -64,7 +64,7 @@ HRESULT GiveInterface(Interface* object, REFIID riid, void** ppvObject) noexcept
     return S_OK;
 }
 
-/// An object of one interface that counts its references and ends with the last. It is made without any.
+/// An object with one interface that counts its references and ends with the last. It starts without any.
 template <class Self, class Interface>
 class Counted : public Interface {
 public:
@@ -82,7 +82,7 @@ private:
     std::atomic<ULONG> references_{0}; // factories may be shared by threads
 };
 
-/// The units of a text, or of a name that ends with a 0; they last as long as it does.
+/// The units of a text, or of a name that ends with a 0; valid as long as the text.
 [[nodiscard]] inline TextView View(BSTR text) noexcept {
     return {reinterpret_cast<const char16_t*>(text), SysStringLen(text)};
 }
@@ -90,19 +90,19 @@ private:
     return reinterpret_cast<const char16_t*>(name);
 }
 
-/// A new text, to be freed by whoever gets it; null where there is no memory.
+/// A new text, which the caller frees; null if there is no memory.
 [[nodiscard]] inline BSTR TryNewBstr(TextView text) noexcept {
     if (text.size() > std::numeric_limits<std::int32_t>::max()) return nullptr;
     return SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text.data()), static_cast<UINT>(text.size()));
 }
-/// The same, which fails with 7.
+/// The same, but fails with 7.
 [[nodiscard]] inline BSTR NewBstr(TextView text) {
     BSTR made = TryNewBstr(text);
     if (made == nullptr) throw Failure(Err::Memory);
     return made;
 }
 
-/// A text that is freed at the end.
+/// A text that the destructor frees.
 class Bstr {
 public:
     Bstr() = default;
@@ -111,7 +111,7 @@ public:
     Bstr& operator=(const Bstr&) = delete;
     ~Bstr() { SysFreeString(text_); }
     [[nodiscard]] BSTR Get() const noexcept { return text_; }
-    /// For whoever writes the text.
+    /// The variable, for functions that write the text.
     [[nodiscard]] BSTR* Place() noexcept { return &text_; }
 
 private:

@@ -8,7 +8,7 @@
 namespace htdrdd {
 namespace {
 
-constexpr std::uint32_t kFailures = 0x800A0000; ///< where the results of failure numbers lie
+constexpr std::uint32_t kFailures = 0x800A0000; ///< base of the results for failure numbers
 
 HRESULT ResultOf(std::int32_t number) noexcept {
     if (number > 0 && number <= 0xFFFF)
@@ -16,7 +16,7 @@ HRESULT ResultOf(std::int32_t number) noexcept {
     return number < 0 ? number : E_FAIL;
 }
 
-/// What a member failed with, for hosts that call members through their slots.
+/// The failure of a member, for hosts that call members through their slots.
 class FailureInfo final : public Counted<FailureInfo, IErrorInfo> {
 public:
     explicit FailureInfo(BSTR text) noexcept : text_(text) {}

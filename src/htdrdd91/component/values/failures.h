@@ -1,4 +1,4 @@
-/// Failures on their way out of the library and into it.
+/// Failures that leave the library or enter it.
 #pragma once
 
 #include "htdrdd91/base/failure.h"
@@ -6,11 +6,11 @@
 
 namespace htdrdd {
 
-/// Makes a failure what GetErrorInfo gives on this thread. The result for the outside host: failure numbers
-/// lie in 0x800A0000, others stay as they are.
+/// Sets the failure that GetErrorInfo returns on this thread. Returns the result for the outside host:
+/// 0x800A0000 plus a failure number; a negative number stays unchanged.
 HRESULT Raise(const Failure& failure) noexcept;
 
-/// Calls something and turns its failure into a result.
+/// Calls `body` and converts its failure to a result.
 template <class Body>
 HRESULT Guarded(const Body& body) noexcept {
     try {
@@ -19,10 +19,10 @@ HRESULT Guarded(const Body& body) noexcept {
     } catch (...) { return Raise(CurrentFailure()); }
 }
 
-/// The failure of a call outside. What it tells about itself in `told` is freed.
+/// The failure of an outside call. Frees the texts in `told`.
 [[nodiscard]] Failure FailureOutside(HRESULT result, EXCEPINFO& told);
 
-/// Fills an exception record with what the last member on this thread failed with.
+/// Fills an exception record with the failure of the last member on this thread.
 void TellFailure(HRESULT result, EXCEPINFO& told) noexcept;
 
 } // namespace htdrdd

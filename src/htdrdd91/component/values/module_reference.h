@@ -1,4 +1,4 @@
-/// What keeps the component loaded.
+/// The counts that keep the component loaded.
 #pragma once
 
 #include <atomic>
@@ -6,12 +6,12 @@
 
 namespace htdrdd {
 
-/// Number of objects that outside hosts have seen and that are still there.
+/// Number of existing objects that outside hosts have seen.
 inline std::atomic<std::int32_t> moduleReferences{0};
 /// Number of locks of class factories.
 inline std::atomic<std::int32_t> serverLocks{0};
 
-/// A member of everything that keeps the component loaded while it exists.
+/// A member of every class whose objects keep the component loaded.
 class ModuleReference {
 public:
     ModuleReference() noexcept { ++moduleReferences; }

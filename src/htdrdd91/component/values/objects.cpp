@@ -8,8 +8,8 @@
 namespace htdrdd {
 namespace {
 
-/// Asks a face of this library for its object. Other libraries in the process, and other copies of this one,
-/// don't answer to it.
+/// The identifier that asks a face of this library for its object. Other libraries in the process, and other
+/// copies of this one, don't know it.
 const GUID& ObjectIdentifier() noexcept {
     static const GUID identifier = [] {
         GUID made{0x6D2C41E5, 0x90B3, 0x4D7A, {}};
@@ -33,12 +33,12 @@ HRESULT QueryObject(Object& object, REFIID riid, void** result) noexcept {
 Ref<Object> OwnObject(IUnknown* face) noexcept {
     void* found = nullptr;
     if (face == nullptr || FAILED(face->QueryInterface(ObjectIdentifier(), &found))) return {};
-    if (found == face) { // one that says yes to everything
+    if (found == face) { // an object that claims to have every interface
         face->Release();
         return {};
     }
     Ref<Object> object(static_cast<Object*>(found));
-    object->Release(); // the reference that the question counted
+    object->Release(); // the reference that the query counted
     return object;
 }
 

@@ -15,10 +15,10 @@ namespace htdrdd {
 /// hosts don't see. Defined in faces/classes.cpp.
 [[nodiscard]] IDispatch& FaceOf(Object& object);
 
-/// An outside object whose members are called by name: a host object, what a host keeps in oState, a stand-in
-/// for a definition. Arguments go by reference in their own kinds, those left out as missing; what a method
-/// writes to them comes back. A call that fails is a failure with the number and text that the object told,
-/// or with 438 if it has no such member.
+/// An outside object whose members are called by name: a host object, the object in oState, a stand-in for a
+/// definition. Arguments are passed by reference in their own kinds, omitted ones as missing; the caller
+/// sees a method's assignments to them. A failed call fails with the number and text from the object, or with
+/// 438 if it has no such member.
 class ForeignObject final : public LateBound {
 public:
     explicit ForeignObject(Com<IDispatch> outside) noexcept : outside_(std::move(outside)) {}
@@ -35,17 +35,17 @@ private:
     Com<IDispatch> outside_;
 };
 
-/// Answers a face's query for its object; E_NOINTERFACE for any other query.
+/// Answers a query to a face for its object; E_NOINTERFACE for any other query.
 HRESULT QueryObject(Object& object, REFIID riid, void** result) noexcept;
 /// The object of a face of this library; empty for any other object.
 [[nodiscard]] Ref<Object> OwnObject(IUnknown* face) noexcept;
 
-/// An object that came from outside: the library's own if it is a face, else a ForeignObject. Empty for a
+/// The object for an outside object: the library's own for a face, otherwise a ForeignObject. Empty for a
 /// null pointer. Fails with 13 for an object that can't be called by name.
 [[nodiscard]] Ref<Object> ObjectFrom(IUnknown* object);
-/// The same; nothing for an object that can't be called by name.
+/// The same; std::nullopt for an object that can't be called by name.
 [[nodiscard]] std::optional<Ref<Object>> TryObjectFrom(IUnknown* object);
-/// The outside object of a reference, counted for the caller; null for an empty one.
+/// The outside object for a reference, counted for the caller; null for an empty reference.
 [[nodiscard]] IDispatch* ObjectOut(const Ref<Object>& object);
 
 } // namespace htdrdd

@@ -7,7 +7,7 @@
 namespace htdrdd {
 namespace {
 
-/// Whether an array has one dimension, elements of a kind that the library knows, and positions of 32 bits.
+/// Whether an array has one dimension, elements of a known kind, and 32-bit positions.
 bool IsList(SAFEARRAY& array) {
     VARTYPE kind = VT_EMPTY;
     return SafeArrayGetDim(&array) == 1 && SUCCEEDED(SafeArrayGetVartype(&array, &kind)) &&
@@ -52,7 +52,7 @@ Variant ValueFrom(const VARIANT& value) {
     case VT_I2: return static_cast<std::int16_t>(value.iVal);
     case VT_I4:
     case VT_INT: return static_cast<std::int32_t>(value.lVal);
-    // Other integers are numbers, but no positions where members tell kinds apart.
+    // Other integers become doubles, so members that distinguish kinds don't take them as positions.
     case VT_I1: return static_cast<double>(value.cVal);
     case VT_UI1: return static_cast<double>(value.bVal);
     case VT_UI2: return static_cast<double>(value.uiVal);
@@ -174,7 +174,7 @@ void AssignTo(const VARIANT& variable, const Variant& value) {
     const auto kind = static_cast<VARTYPE>(variable.vt & ~VT_BYREF);
     ValueOut(made.Get(), value, kind);
     if (kind == VT_VARIANT) return std::swap(*variable.pvarVal, made.Get());
-    // Exchanged, so that what the variable held ends with the variant.
+    // Swapped, so that the variable's old value ends with the variant.
     std::array<char, sizeof(VARIANT::llVal)> held{};
     const std::size_t size = SizeOfKind(kind);
     std::memcpy(held.data(), variable.byref, size);

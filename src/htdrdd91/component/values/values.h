@@ -1,4 +1,4 @@
-/// Values and arrays on their way between outside hosts and the library.
+/// Conversion of values and arrays between outside hosts and the library.
 #pragma once
 
 #include "htdrdd91/base/array.h"
@@ -14,21 +14,21 @@
 
 namespace htdrdd {
 
-/// The value of a variant, which may refer to it; Other for kinds that the library doesn't know. Fails only
+/// The value that a variant holds or refers to; Other for kinds that the library doesn't know. Fails only
 /// with 7.
 [[nodiscard]] Variant ValueFrom(const VARIANT& value);
-/// Puts a value into a variant that holds none. Fails with 13 for Other.
+/// Puts a value into an empty variant. Fails with 13 for Other.
 void ValueOut(VARIANT& to, const Variant& value);
-/// The same, in a kind that the variant is to have. Fails as the value's conversions do.
+/// The same, converted to a kind. Fails as the value's conversions do.
 void ValueOut(VARIANT& to, const Variant& value, VARTYPE kind);
-/// Puts a value into the variable that an argument by reference refers to, in the variable's own kind.
+/// Assigns a value to the variable of an argument by reference, converted to the variable's kind.
 void AssignTo(const VARIANT& variable, const Variant& value);
-/// The variant that another one refers to, or that one itself if it refers to none.
+/// The variant that another variant refers to, or that variant itself if it refers to none.
 [[nodiscard]] const VARIANT& Referent(const VARIANT& value) noexcept;
-/// The value that a variant holds or refers to, as a variant that holds it and owns nothing.
+/// The value that a variant holds or refers to, as a variant that holds the value and owns nothing.
 [[nodiscard]] VARIANT Dereferenced(const VARIANT& value) noexcept;
 
-/// A variant that is cleared at the end.
+/// A variant that the destructor clears.
 class OwnVariant {
 public:
     OwnVariant() noexcept { VariantInit(&value_); }
@@ -42,7 +42,7 @@ private:
     VARIANT value_{};
 };
 
-/// The elements of an array of one dimension, one after the other.
+/// Reads the elements of a one-dimensional array, in order.
 class ArrayReader {
 public:
     /// Fails with 9 for more dimensions, and with 13 for elements of a kind that the library doesn't know.
@@ -59,14 +59,14 @@ private:
     const char* place_;
 };
 
-/// A new array of one dimension, which ends here unless it is given away.
+/// Builds a one-dimensional array, which the destructor destroys unless it was detached.
 class ArrayBuilder {
 public:
     ArrayBuilder(VARTYPE kind, std::size_t count, std::int32_t lowerBound);
     ArrayBuilder(const ArrayBuilder&) = delete;
     ArrayBuilder& operator=(const ArrayBuilder&) = delete;
     ~ArrayBuilder() { SafeArrayDestroy(array_); }
-    /// Fills the next element, in the kind of the array.
+    /// Fills the next element, converted to the kind of the array.
     void Add(const Variant& value);
     [[nodiscard]] SAFEARRAY* Detach() noexcept { return std::exchange(array_, nullptr); }
 
@@ -81,8 +81,8 @@ inline void Convert(const Variant& value, Text& to) { to = value.ToText(); }
 inline void Convert(const Variant& value, std::int32_t& to) { to = value.ToInteger32(); }
 inline void Convert(const Variant& value, bool& to) { to = value.ToBoolean(); }
 
-/// The elements of an array with its lower bound, each turned into a T; a null pointer is an array without
-/// storage. Fails as ArrayReader does.
+/// The elements of an array with its lower bound, each converted to a T; a null pointer becomes an array
+/// without storage. Fails as ArrayReader does.
 template <class T>
 [[nodiscard]] Array<T> ArrayOf(SAFEARRAY* array) {
     if (array == nullptr) return {};
@@ -105,7 +105,7 @@ template <>
 inline constexpr VARTYPE kElement<std::int32_t> = VT_I4;
 template <>
 inline constexpr VARTYPE kElement<bool> = VT_BOOL;
-/// A new array with elements of a kind, for whoever gets it; null for one without storage.
+/// A new array with elements of a kind, owned by the caller; null for an array without storage.
 template <class T>
 [[nodiscard]] SAFEARRAY* ArrayOut(const Array<T>& array, VARTYPE kind = kElement<T>) {
     if (!array.HasStorage()) return nullptr;
