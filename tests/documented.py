@@ -34,6 +34,14 @@ def rules():
             missing.append(f"docs/validation.md, {title}: has rows {numbers} for the rules {' '.join(enumerators.split())}")
 
 
+def forms():
+    """Members that read or write grade scales and scaled scores in a form of their own are described and fuzzed."""
+    listing = pathlib.Path("docs/interfaces.txt").read_text()
+    for name in sorted(set(re.findall(r" ((?:Export|Import|\w+(?:To|From)[A-Z]|(?:To|From)[A-Z])\w*)\(", listing))):
+        demand("docs/exchange.md", f"`{name}`")
+        demand("fuzz/forms_fuzz.cpp", f"{name}(")
+
+
 def commands(htdrdd, *path):
     usage = subprocess.run([htdrdd, *path, "--help"], capture_output=True, text=True, check=True).stdout
     if path:
@@ -47,5 +55,6 @@ def commands(htdrdd, *path):
 
 keys()
 rules()
+forms()
 commands(sys.argv[1])
 sys.exit("\n".join(missing) or None)

@@ -74,13 +74,8 @@ Json JsonOf(const clsHTDRDD& definition, bool bSecrets) {
     Json subtests = Json::array();
     for (std::int32_t l = 1; l <= definition.Subtests->Count(); ++l)
         subtests.push_back(JsonOf(*definition.Subtests->Item(l), bSecrets));
-    Json object{{"FileName", JsonOf(definition.FileName)},
-                {"TemplateName", JsonOf(definition.TemplateName)},
-                {"Description", JsonOf(definition.Description)},
-                {"Notes", JsonOf(definition.Notes)},
-                {"ReportType", static_cast<std::int32_t>(definition.ReportType)},
-                {"NumPages", definition.NumPages},
-                {"CustomHeader", definition.CustomHeader}};
+    Json object{{"FileName", JsonOf(definition.FileName)}};
+    EachMember<clsHTDRDD>([&](auto row) { object[ToUtf8(row.name)] = JsonOf(definition.*row.member); });
     object["Questions"] = std::move(questions);
     object["Versions"] = JsonOf(*definition.Versions);
     object["Subtests"] = std::move(subtests);

@@ -19,7 +19,7 @@ public:
     explicit RandomDefinition(std::uint64_t seed) : random_(seed) {}
 
     Ref<clsHTDRDD> Made() {
-        Fill(rdd_->TemplateName, rdd_->Description, rdd_->Notes, rdd_->NumPages, rdd_->CustomHeader);
+        FillAll(*rdd_);
         rdd_->ReportType = Enum<HTDReportType>({1, 1, 1, 2, 2, 3, 3, 0, -32768, 32767}); // read as 16 bits
         generic_ = rdd_->ReportType == HTDReportTypeGenericGrade;
         if (Rarely()) rdd_->Header = Make<Dictionary>(); // empty, and its keys are case-sensitive

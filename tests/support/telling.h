@@ -47,7 +47,7 @@ public:
     }
 
     void Tell(const clsHTDRDD& rdd) {
-        Tell(rdd.TemplateName, rdd.Description, rdd.Notes, rdd.ReportType, rdd.NumPages, rdd.CustomHeader);
+        TellAll(rdd);
         Tell(rdd.Versions->Question, rdd.Versions->VType(), rdd.Versions->Answers->AsString());
         Each(*rdd.Versions->Sequences, [&](const auto& sequence) { Tell(sequence.AsString()); });
         for (const auto& [key, item] : rdd.Header->Entries()) Tell(key.ToText(), item.ToText());

@@ -3,6 +3,7 @@
 #include "htdrdd91/definition_file/messages.h"
 #include "htdrdd91/definition_file/section_rows.h"
 #include "htdrdd91/foundation/basError.h"
+#include "htdrdd91/model/model_members.h"
 
 namespace htdrdd::basTemplate {
 namespace {
@@ -58,6 +59,9 @@ constexpr std::array kRows{
         Never},
     Row{u"SubtestName", ReadSubtestNames, nullptr, Never},
 };
+constexpr std::size_t kOthers = 7; // four counts, the version, and two keys of older files
+static_assert(kRows.size() == kMemberCount<clsHTDRDD> + kOthers,
+              "Each plain member of a definition has a row.");
 
 } // namespace
 

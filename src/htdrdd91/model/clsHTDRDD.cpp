@@ -5,6 +5,7 @@
 #include "htdrdd91/foundation/basError.h"
 #include "htdrdd91/foundation/version.h"
 #include "htdrdd91/model/basPublicHeader.h"
+#include "htdrdd91/model/model_members.h"
 #include "htdrdd91/platform/thread_state.h"
 
 namespace htdrdd {
@@ -50,12 +51,8 @@ void clsHTDRDD::Clear() {
     ScaledScore->Clear();
     SubtestScaledScore->Clear();
     basPublic::InitializeHeader(Header);
-    TemplateName.clear();
+    EachMember<clsHTDRDD>([this](auto row) { this->*row.member = {}; });
     ReportType = HTDReportTypeSurvey;
-    NumPages = 0;
-    Description.clear();
-    Notes.clear();
-    CustomHeader = false;
     oState = nullptr;
 }
 
