@@ -2,6 +2,7 @@
 
 #include "host/console/json.h"
 #include "host/console/record_json.h"
+#include "htdrdd91/definition_file/report_members.h"
 #include "htdrdd91/model/model_members.h"
 #include "htdrdd91/platform/encoding.h"
 

@@ -7,6 +7,7 @@
 #include "htdrdd91/component/values/failures.h"
 #include "htdrdd91/component/values/module_reference.h"
 #include "htdrdd91/component/values/objects.h"
+#include "htdrdd91/definition_file/report_members.h"
 #include "htdrdd91/foundation/clsDZip.h"
 #include "htdrdd91/grade_scales/clsHTDGradeScaleManager.h"
 #include "htdrdd91/model/model_members.h"

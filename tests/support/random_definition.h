@@ -1,6 +1,7 @@
 /// Random definitions.
 #pragma once
 
+#include "htdrdd91/definition_file/report_members.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 #include "htdrdd91/model/model_members.h"
 #include "htdrdd91/scaled_scores/scaled_score_list.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "htdrdd91/base/number.h"
+#include "htdrdd91/definition_file/report_members.h"
 #include "htdrdd91/model/clsHTDRDD.h"
 #include "htdrdd91/model/model_members.h"
 #include "htdrdd91/scaled_scores/scaled_score_list.h"

@@ -46,8 +46,8 @@ enum class Err : std::int32_t {
 /// The standard description of a failure number; numbers without their own share a general text.
 [[nodiscard]] std::u16string_view ErrorText(std::int32_t number) noexcept;
 
-/// The exception of a routine that fails. Members that are noexcept catch and report it; from all other members
-/// it passes to the C++ host.
+/// The exception of a routine that fails. Members that are noexcept catch and report it; from all other
+/// members it passes to the C++ host.
 class Failure final : public std::exception {
 public:
     explicit Failure(Err number, Where at = {}) : Failure(static_cast<std::int32_t>(number), at) {}

@@ -1,9 +1,9 @@
 #include "htdrdd91/definition_file/report_section.h"
 
 #include "htdrdd91/definition_file/messages.h"
+#include "htdrdd91/definition_file/report_members.h"
 #include "htdrdd91/definition_file/section_rows.h"
 #include "htdrdd91/foundation/basError.h"
-#include "htdrdd91/model/model_members.h"
 
 namespace htdrdd::basTemplate {
 namespace {

@@ -5,7 +5,6 @@
 #include "htdrdd91/foundation/basError.h"
 #include "htdrdd91/foundation/version.h"
 #include "htdrdd91/model/basPublicHeader.h"
-#include "htdrdd91/model/model_members.h"
 #include "htdrdd91/platform/thread_state.h"
 
 namespace htdrdd {
@@ -51,8 +50,12 @@ void clsHTDRDD::Clear() {
     ScaledScore->Clear();
     SubtestScaledScore->Clear();
     basPublic::InitializeHeader(Header);
-    EachMember<clsHTDRDD>([this](auto row) { this->*row.member = {}; });
+    TemplateName.clear();
     ReportType = HTDReportTypeSurvey;
+    NumPages = 0;
+    Description.clear();
+    Notes.clear();
+    CustomHeader = false;
     oState = nullptr;
 }
 

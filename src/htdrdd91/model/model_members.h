@@ -1,23 +1,11 @@
-/// The lists of the members of definitions, questions and learning objectives, for files, merges, JSON and
-/// tests.
+/// The lists of the members of questions and of learning objectives, for files, merges, JSON and tests.
 #pragma once
 
 #include "htdrdd91/base/class_members.h"
-#include "htdrdd91/model/clsHTDRDD.h"
 #include "htdrdd91/model/clsHTDRDDQuestion.h"
 #include "htdrdd91/model/clsHTDRDDSubtest.h"
 
 namespace htdrdd {
-
-/// The plain members of a definition, as files hold them.
-template <>
-inline constexpr auto kMembers<clsHTDRDD> =
-    std::tuple{NamedMember{u"TemplateName", &clsHTDRDD::TemplateName},
-               NamedMember{u"Description", &clsHTDRDD::Description},
-               NamedMember{u"Notes", &clsHTDRDD::Notes},
-               NamedMember{u"ReportType", &clsHTDRDD::ReportType},
-               NamedMember{u"NumPages", &clsHTDRDD::NumPages},
-               NamedMember{u"CustomHeader", &clsHTDRDD::CustomHeader}};
 
 template <>
 inline constexpr auto kMembers<clsHTDRDDQuestion> =
