@@ -13,7 +13,7 @@ struct Shape {
     int versions = 0;   ///< version identifiers; the answer key is the same for each
 };
 
-/// A definition file in UTF-16 with its byte order mark, about 1,400 bytes a question.
+/// A definition file in UTF-16 with its byte order mark, about 1,430 bytes a question.
 [[nodiscard]] std::string DefinitionText(const Shape& shape);
 
 } // namespace htdrdd::bench

@@ -100,9 +100,9 @@ bool CountsMatch(const Reading& r, Where at = Where::current()) {
     return true;
 }
 
-/// Reads a definition file into an object, which is cleared first. Returns false for a missing file, with the
-/// object unchanged; otherwise the object holds everything that was read. A broken file leads to a complaint
-/// through the host; a file whose first line isn't a section line is refused without a report.
+/// Reads a definition file into an object, which is cleared once the file's text is found. Returns false if
+/// the file is missing or broken; the host learns of a broken one, unless its first line isn't a section
+/// line.
 bool ReadDefinition(TextView sFile, clsHTDRDD& oRDD) noexcept {
     bool result = false;
     ArchiveStage archive;

@@ -56,7 +56,8 @@ public:
     void Clear();
 
     /// Reads a definition file into this object. A missing file changes nothing; the result is false without
-    /// a report. Otherwise the object is cleared first. Returns false without a report if the first line
+    /// a report. A file that can't be opened, and an archive with several files, change nothing and are
+    /// reported. Any other file clears the object first. Returns false without a report if the first line
     /// isn't a section line, and false with a complaint for a broken file; the object then holds the part
     /// before. FileName is set only if the result is true. AfterRead is raised in any case.
     bool Read(TextView sRDDFile);
